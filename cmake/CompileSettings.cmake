@@ -1,0 +1,28 @@
+# Everything that all targets are compiled with, in one place: link `compile_settings` privately.
+add_library(compile_settings INTERFACE)
+target_compile_features(compile_settings INTERFACE cxx_std_17)
+target_compile_definitions(compile_settings INTERFACE
+    QT_NO_KEYWORDS
+    QT_NO_CAST_FROM_ASCII
+    QT_NO_CAST_TO_ASCII
+    QT_NO_CAST_FROM_BYTEARRAY
+    QT_NO_URL_CAST_FROM_STRING
+    QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
+    QT_STRICT_ITERATORS
+    QT_DEPRECATED_WARNINGS
+    QT_DISABLE_DEPRECATED_BEFORE=0x050C00)
+
+if(MSVC)
+    target_compile_options(compile_settings INTERFACE /W4 /permissive- /utf-8 /guard:cf $<$<BOOL:${GUI_WERROR}>:/WX>)
+else()
+    target_compile_options(compile_settings INTERFACE
+        -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wundef
+        $<$<BOOL:${GUI_WERROR}>:-Werror>)
+endif()
+
+if(GUI_SANITIZE)
+    # Recovery is off, so that the first report fails the run.
+    set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_compile_options(compile_settings INTERFACE ${sanitizers})
+    target_link_options(compile_settings INTERFACE ${sanitizers})
+endif()

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "IBaseDialog.h"
+
+#include <QDialog>
+#include <QPoint>
+
+QT_BEGIN_NAMESPACE
+class QLabel;
+QT_END_NAMESPACE
+
+/// A blank and the agent's name. The blank keeps the name off the logo that stands before it in a caption.
+extern const QString captionPrefix;
+/// A blank and the product's full name.
+extern const QString productPrefix;
+
+/// What all dialogs have in common: a frameless, translucent window in the middle of the primary screen that is moved
+/// by dragging its surface, accepts on Return and Enter, ignores every other key, and can be scaled.
+class BaseDialog : public QDialog, public virtual IBaseDialog
+{
+    Q_OBJECT
+
+public:
+    explicit BaseDialog(QWidget* parent = nullptr);
+
+    void setModal(bool modal) override;
+    void show() override;
+    void hide() override;
+    void done(int result) override;
+    int exec() override;
+    void setRatio(float ratio) override;
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+    /// Makes the window frameless and translucent and centres it at its present size.
+    virtual void setupWindow();
+    /// Centres the window on the primary screen, task bars left out.
+    virtual void moveToScreenCenter();
+    /// Fills the labels of a caption, @p titleLabel where there is one, and the window title.
+    virtual void setCaption(QLabel* prefixLabel, QLabel* titleLabel, const QString& title);
+    /// Sets window title and tool tip.
+    virtual void setTitle(const QString& title);
+
+private:
+    Q_DISABLE_COPY(BaseDialog)
+
+    /// Where in the dialog the mouse went down; (0, 0) while nothing is dragged.
+    QPoint dragPosition;
+};

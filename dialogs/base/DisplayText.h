@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+
+// Text that comes from outside is data. These functions make it appear as what it is, on screen only: what an
+// interface returns is always the text that was given.
+
+/// @p text with control characters, line breaks and bidirectional controls replaced by U+FFFD, so that a remote
+/// person's name or path can neither hide a part of itself nor reorder or continue what stands around it.
+QString withVisibleControls(const QString& text);
+
+/// @p text as a tool tip that shows it literally, also when it looks like markup.
+QString literalToolTip(const QString& text);
+
+/// @p text as a window title that shows it literally, also when it contains Qt's mark for unsaved changes.
+QString literalWindowTitle(const QString& text);

@@ -1,0 +1,39 @@
+#pragma once
+
+/// The operations that every dialog shares.
+///
+/// The host never creates or owns a dialog: it gets one from GuiInterface, keeps it as `I<Name>Dialog*` and gives it
+/// back with the delete operation of the same family. All calls belong to the GUI thread.
+///
+/// A dialog never closes itself on a click: it emits `dialogEvent` and stays as it is until the host hides it, ends it
+/// with done() or deletes it. The order of the virtual functions is part of the binary contract.
+class IBaseDialog
+{
+public:
+    /// Deleting a dialog directly is allowed, but the delete operation of GuiInterface is the usual way: it waits for
+    /// the event loop and so is safe inside the dialog's own event handler.
+    virtual ~IBaseDialog() = default;
+
+    /// Makes the dialog block the host's other windows while it is shown (true) or not (false). Takes effect at the
+    /// next show().
+    virtual void setModal(bool modal) = 0;
+
+    /// Shows the dialog and returns at once.
+    virtual void show() = 0;
+
+    /// Hides the dialog. What was set and typed stays.
+    virtual void hide() = 0;
+
+    /// Closes the dialog and makes a running exec() return @p result.
+    virtual void done(int result) = 0;
+
+    /// Shows the dialog modally and returns when the host calls done() or hide(). Returns the result given to done(),
+    /// 0 when it was hidden.
+    virtual int exec() = 0;
+
+    /// Scales the dialog about its centre, and all widgets in it, by @p ratio. 1.0 changes nothing. Ratios multiply:
+    /// a second call scales what the first one left. A ratio that is not a positive finite number changes nothing; one
+    /// that would make a side longer than 8192 pixels is lowered to what gives that length.
+    /// GuiInterface::setRatio() does this for every dialog at its creation, so few hosts need this one.
+    virtual void setRatio(float ratio) = 0;
+};

@@ -1,0 +1,6 @@
+#include "QLabelEx.h"
+
+void QLabelEx::mousePressEvent(QMouseEvent*)
+{
+    Q_EMIT click();
+}

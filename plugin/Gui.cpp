@@ -1,0 +1,203 @@
+#include "Gui.h"
+
+#include "AcceptMessageDialog.h"
+#include "ErrorMessageDialog.h"
+#include "loadTranslation.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QMetaMethod>
+#include <QTranslator>
+
+#include <cmath>
+#include <type_traits>
+
+namespace
+{
+template <class Dialog>
+QString registryKey(const QString& id)
+{
+    return QLatin1String(Dialog::staticMetaObject.className()) + id;
+}
+
+template <class Dialog>
+Dialog* create()
+{
+    if constexpr (std::is_constructible_v<Dialog, QString, QWidget*>)
+        return new Dialog(QString(), nullptr);
+    else
+        return new Dialog(nullptr);
+}
+
+/// The string form of a dialog's event signal, as SIGNAL() would make it. The dialog's meta-object knows its arguments.
+QByteArray eventSignal(const QMetaObject& metaObject)
+{
+    for (int i = metaObject.methodOffset(); i < metaObject.methodCount(); ++i) {
+        const QMetaMethod method = metaObject.method(i);
+        if (method.methodType() == QMetaMethod::Signal && method.name() == "dialogEvent")
+            return QByteArray::number(QSIGNAL_CODE) + method.methodSignature();
+    }
+    return QByteArray();
+}
+} // namespace
+
+Gui::Gui()
+{
+    assignTranslations();
+}
+
+Gui::~Gui() = default;
+
+void Gui::setRatio(float newRatio)
+{
+    if (std::isfinite(newRatio) && newRatio > 0.0F)
+        ratio = newRatio;
+}
+
+float Gui::getRatio() const
+{
+    return ratio;
+}
+
+template <class Dialog>
+Dialog* Gui::get(const QString& id)
+{
+    // Looked up without the id: a prompt that is kept per id is therefore created anew at every call.
+    if (BaseDialog* existing = dialogs[registryKey<Dialog>(QString())])
+        return static_cast<Dialog*>(existing);
+
+    auto* dialog = create<Dialog>();
+    assignStyleSheet(dialog);
+    dialog->setRatio(getRatio());
+    store(registryKey<Dialog>(id), dialog);
+    return dialog;
+}
+
+template <class Dialog>
+bool Gui::remove(const QString& id)
+{
+    return removeEntry(registryKey<Dialog>(id));
+}
+
+template <class Dialog>
+bool Gui::attach(const QObject* receiver, const char* slot, const QString& id)
+{
+    auto* dialog = qobject_cast<Dialog*>(dialogs[registryKey<Dialog>(id)]);
+    if (!dialog || !receiver || !slot)
+        return false;
+    return QObject::connect(dialog, eventSignal(Dialog::staticMetaObject).constData(), receiver, slot,
+                            Qt::UniqueConnection);
+}
+
+void Gui::store(const QString& key, BaseDialog* dialog)
+{
+    dialogs[key] = dialog;
+    // A host may also delete a dialog through its pointer; the registry must not outlive it.
+    connect(dialog, &QObject::destroyed, this, [this, key, dialog] {
+        const auto entry = dialogs.find(key);
+        if (entry != dialogs.end() && entry.value() == dialog)
+            entry.value() = nullptr;
+    });
+}
+
+bool Gui::removeEntry(const QString& key)
+{
+    BaseDialog* dialog = dialogs.take(key);
+    if (dialog)
+        dialog->deleteLater();
+    return dialog != nullptr;
+}
+
+void Gui::assignStyleSheet(QDialog* dialog)
+{
+    if (!styleSheet) {
+        styleSheet = std::make_unique<QString>();
+        QFile file(QStringLiteral(":/styles/appStyleSheet.qss"));
+        if (file.open(QIODevice::ReadOnly))
+            *styleSheet = QString::fromUtf8(file.readAll());
+    }
+    dialog->setStyleSheet(*styleSheet);
+}
+
+void Gui::assignTranslations()
+{
+    static QTranslator translator;
+    if (loadTranslation(translator, QStringLiteral(":/translations/Gui_"), QStringLiteral("en")))
+        QCoreApplication::installTranslator(&translator);
+    else
+        qDebug("GUI TRANSLATIONS NOT LOADED");
+}
+
+// The families differ in a type.
+#define DIALOG_FAMILY(Dialog)                                                                                          \
+    I##Dialog* Gui::get##Dialog##Instance()                                                                            \
+    {                                                                                                                  \
+        return get<Dialog>();                                                                                          \
+    }                                                                                                                  \
+    bool Gui::delete##Dialog##Instance()                                                                               \
+    {                                                                                                                  \
+        return remove<Dialog>();                                                                                       \
+    }                                                                                                                  \
+    bool Gui::attach##Dialog##EventHandler(const QObject* receiver, const char* slot)                                  \
+    {                                                                                                                  \
+        return attach<Dialog>(receiver, slot);                                                                         \
+    }
+
+// A family whose dialog does not exist yet.
+#define MISSING_FAMILY(Dialog)                                                                                         \
+    I##Dialog* Gui::get##Dialog##Instance()                                                                            \
+    {                                                                                                                  \
+        return nullptr;                                                                                                \
+    }                                                                                                                  \
+    bool Gui::delete##Dialog##Instance()                                                                               \
+    {                                                                                                                  \
+        return false;                                                                                                  \
+    }                                                                                                                  \
+    bool Gui::attach##Dialog##EventHandler(const QObject*, const char*)                                                \
+    {                                                                                                                  \
+        return false;                                                                                                  \
+    }
+
+MISSING_FAMILY(AboutDialog)
+
+MISSING_FAMILY(ActivationDialog)
+
+DIALOG_FAMILY(AcceptMessageDialog)
+
+DIALOG_FAMILY(ErrorMessageDialog)
+
+MISSING_FAMILY(ProgressDialog)
+
+MISSING_FAMILY(AuthorizationDialog)
+
+MISSING_FAMILY(ZentPasswordDialog)
+
+MISSING_FAMILY(OptionDialog)
+
+MISSING_FAMILY(RebootDialog)
+
+MISSING_FAMILY(EnterPasswordDialog)
+
+MISSING_FAMILY(ServiceDeskTicketDialog)
+
+MISSING_FAMILY(RemoteConnectionDialog)
+
+IApproveRemoteConnectionDialog* Gui::getApproveRemoteConnectionDialogInstance(const QString&)
+{
+    return nullptr;
+}
+
+bool Gui::deleteApproveRemoteConnectionDialogInstance(const QString&)
+{
+    return false;
+}
+
+bool Gui::deleteAllApproveRemoteConnectionDialogInstances()
+{
+    return false;
+}
+
+bool Gui::attachApproveRemoteConnectionDialogEventHandler(const QObject*, const char*, const QString&)
+{
+    return false;
+}

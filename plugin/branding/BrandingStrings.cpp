@@ -1,0 +1,62 @@
+#include "BrandingStrings.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QDir>
+#include <QFile>
+#include <QProcessEnvironment>
+#include <QSettings>
+#include <QTextCodec>
+
+namespace
+{
+bool isUtf8(const QByteArray& bytes)
+{
+    QTextCodec::ConverterState state;
+    QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
+    return state.invalidChars == 0 && state.remainingChars == 0;
+}
+
+void readFile(BrandingStrings& strings, const QString& path)
+{
+    QSettings settings(path, QSettings::IniFormat);
+    QFile file(path);
+    // Without a codec QSettings takes the bytes for Latin-1, and few editors write that today.
+    if (file.open(QIODevice::ReadOnly) && isUtf8(file.readAll()))
+        settings.setIniCodec("UTF-8");
+
+    const auto read = [&settings](const char* key, QString& field) {
+        const QString value = settings.value(QLatin1String(key), QString()).toString();
+        if (!value.isEmpty())
+            field = value;
+    };
+    read("companyName", strings.companyName);
+    read("agentName", strings.agentName);
+    read("supportWebsite", strings.supportWebsite);
+    read("supportEmail", strings.supportEmail);
+    read("supportPhone", strings.supportPhone);
+    strings.productFullName = strings.companyName + QLatin1Char(' ') + strings.agentName;
+}
+} // namespace
+
+BrandingStrings::BrandingStrings(const QString& directory)
+{
+    const QString path = directory + QDir::separator() + QStringLiteral("oem.strings");
+    qDebug().nospace() << "Try to find oem.strings in " << path;
+    if (QFile::exists(path)) {
+        readFile(*this, path);
+        qDebug("OEM strings loaded");
+    } else {
+        qDebug().nospace() << "OEM strings file does not exists! " << path;
+    }
+
+    QDir directoryOfAllUsers(QProcessEnvironment::systemEnvironment().value(QStringLiteral("ALLUSERSPROFILE")));
+    directoryOfAllUsers.cd(vendorName + productDirectory);
+    dataDirectory = directoryOfAllUsers.path();
+}
+
+const BrandingStrings& brandingStrings()
+{
+    static const BrandingStrings strings(QCoreApplication::applicationDirPath());
+    return strings;
+}
