@@ -93,6 +93,7 @@ void PluginTest::attachReportsMisuse()
     QVERIFY(!gui().attachErrorMessageDialogEventHandler(nullptr, slot));
     QVERIFY(!gui().attachErrorMessageDialogEventHandler(&receiver, nullptr));
     expectWarning(QStringLiteral("No such slot EventReceiver::unknown"));
+    expectWarning(QStringLiteral("sender name: *.ErrorMessageDialog"));
     QVERIFY(!gui().attachErrorMessageDialogEventHandler(&receiver, SLOT(unknown())));
     QVERIFY(gui().attachErrorMessageDialogEventHandler(&receiver, slot));
 }
