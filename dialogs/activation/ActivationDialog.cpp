@@ -147,7 +147,7 @@ void ActivationDialog::slPasteEnrollDataFromClipboard()
 void ActivationDialog::watchInsertions(QLineEdit* edit)
 {
     // A field tells that it was edited, not what was inserted. That starts where selection or cursor stood before and
-    // ends at the cursor, whether it was pasted, dropped or committed by an input method.
+    // ends at the cursor, in whichever way it was pasted or dropped.
     const auto start = std::make_shared<int>(0);
     const auto rememberStart = [edit, start] {
         *start = edit->hasSelectedText() ? edit->selectionStart() : edit->cursorPosition();
