@@ -1,7 +1,11 @@
 #include "Gui.h"
 
 #include "AcceptMessageDialog.h"
+#include "ActivationDialog.h"
+#include "AuthorizationDialog.h"
+#include "EnterPasswordDialog.h"
 #include "ErrorMessageDialog.h"
+#include "ZentPasswordDialog.h"
 #include "loadTranslation.h"
 
 #include <QCoreApplication>
@@ -159,7 +163,7 @@ void Gui::assignTranslations()
 
 MISSING_FAMILY(AboutDialog)
 
-MISSING_FAMILY(ActivationDialog)
+DIALOG_FAMILY(ActivationDialog)
 
 DIALOG_FAMILY(AcceptMessageDialog)
 
@@ -167,15 +171,15 @@ DIALOG_FAMILY(ErrorMessageDialog)
 
 MISSING_FAMILY(ProgressDialog)
 
-MISSING_FAMILY(AuthorizationDialog)
+DIALOG_FAMILY(AuthorizationDialog)
 
-MISSING_FAMILY(ZentPasswordDialog)
+DIALOG_FAMILY(ZentPasswordDialog)
 
 MISSING_FAMILY(OptionDialog)
 
 MISSING_FAMILY(RebootDialog)
 
-MISSING_FAMILY(EnterPasswordDialog)
+DIALOG_FAMILY(EnterPasswordDialog)
 
 MISSING_FAMILY(ServiceDeskTicketDialog)
 
