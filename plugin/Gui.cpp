@@ -1,7 +1,12 @@
 #include "Gui.h"
 
+#include "AboutDialog.h"
 #include "AcceptMessageDialog.h"
 #include "ErrorMessageDialog.h"
+#include "OptionDialog.h"
+#include "ProgressDialog.h"
+#include "RebootDialog.h"
+#include "ServiceDeskTicketDialog.h"
 #include "loadTranslation.h"
 
 #include <QCoreApplication>
@@ -158,7 +163,7 @@ void Gui::assignTranslations()
         return false;                                                                                                  \
     }
 
-MISSING_FAMILY(AboutDialog)
+DIALOG_FAMILY(AboutDialog)
 
 MISSING_FAMILY(ActivationDialog)
 
@@ -166,19 +171,19 @@ DIALOG_FAMILY(AcceptMessageDialog)
 
 DIALOG_FAMILY(ErrorMessageDialog)
 
-MISSING_FAMILY(ProgressDialog)
+DIALOG_FAMILY(ProgressDialog)
 
 MISSING_FAMILY(AuthorizationDialog)
 
 MISSING_FAMILY(ZentPasswordDialog)
 
-MISSING_FAMILY(OptionDialog)
+DIALOG_FAMILY(OptionDialog)
 
-MISSING_FAMILY(RebootDialog)
+DIALOG_FAMILY(RebootDialog)
 
 MISSING_FAMILY(EnterPasswordDialog)
 
-MISSING_FAMILY(ServiceDeskTicketDialog)
+DIALOG_FAMILY(ServiceDeskTicketDialog)
 
 MISSING_FAMILY(RemoteConnectionDialog)
 
