@@ -17,8 +17,7 @@
 #include <cmath>
 #include <type_traits>
 
-namespace
-{
+namespace {
 template <class Dialog>
 QString registryKey(const QString& id)
 {

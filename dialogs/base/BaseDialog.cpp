@@ -17,8 +17,7 @@
 const QString captionPrefix = QLatin1Char(' ') + brandingStrings().agentName;
 const QString productPrefix = QLatin1Char(' ') + brandingStrings().productFullName;
 
-namespace
-{
+namespace {
 // No desktop is larger, and a window larger than this could not get its backing store.
 constexpr int longestSide = 8192;
 

@@ -16,8 +16,7 @@ extern const QString productPrefix;
 
 /// What all dialogs have in common: a frameless, translucent window in the middle of the primary screen that is moved
 /// by dragging its surface, accepts on Return and Enter, ignores every other key, and can be scaled.
-class BaseDialog : public QDialog, public virtual IBaseDialog
-{
+class BaseDialog : public QDialog, public virtual IBaseDialog {
     Q_OBJECT
 
 public:

@@ -8,8 +8,7 @@
 #include <QSettings>
 #include <QTextCodec>
 
-namespace
-{
+namespace {
 bool isUtf8(const QByteArray& bytes)
 {
     QTextCodec::ConverterState state;
