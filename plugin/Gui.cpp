@@ -1,10 +1,15 @@
 #include "Gui.h"
 
+#include "AboutDialog.h"
 #include "AcceptMessageDialog.h"
 #include "ActivationDialog.h"
 #include "AuthorizationDialog.h"
 #include "EnterPasswordDialog.h"
 #include "ErrorMessageDialog.h"
+#include "OptionDialog.h"
+#include "ProgressDialog.h"
+#include "RebootDialog.h"
+#include "ServiceDeskTicketDialog.h"
 #include "ZentPasswordDialog.h"
 #include "loadTranslation.h"
 
@@ -161,7 +166,7 @@ void Gui::assignTranslations()
         return false;                                                                                                  \
     }
 
-MISSING_FAMILY(AboutDialog)
+DIALOG_FAMILY(AboutDialog)
 
 DIALOG_FAMILY(ActivationDialog)
 
@@ -169,19 +174,19 @@ DIALOG_FAMILY(AcceptMessageDialog)
 
 DIALOG_FAMILY(ErrorMessageDialog)
 
-MISSING_FAMILY(ProgressDialog)
+DIALOG_FAMILY(ProgressDialog)
 
 DIALOG_FAMILY(AuthorizationDialog)
 
 DIALOG_FAMILY(ZentPasswordDialog)
 
-MISSING_FAMILY(OptionDialog)
+DIALOG_FAMILY(OptionDialog)
 
-MISSING_FAMILY(RebootDialog)
+DIALOG_FAMILY(RebootDialog)
 
 DIALOG_FAMILY(EnterPasswordDialog)
 
-MISSING_FAMILY(ServiceDeskTicketDialog)
+DIALOG_FAMILY(ServiceDeskTicketDialog)
 
 MISSING_FAMILY(RemoteConnectionDialog)
 
