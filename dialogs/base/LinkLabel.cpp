@@ -1,10 +1,13 @@
 #include "LinkLabel.h"
 
-#include <QFocusEvent>
-
 void LinkLabel::focusInEvent(QFocusEvent* event)
 {
     QLabel::focusInEvent(event);
-    if (event->reason() != Qt::MouseFocusReason && !hasSelectedText())
-        focusNextPrevChild(event->reason() != Qt::BacktabFocusReason);
+    if (!hasSelectedText())
+        QLabel::focusNextPrevChild(true);
+}
+
+bool LinkLabel::focusNextPrevChild(bool next)
+{
+    return QWidget::focusNextPrevChild(next);
 }

@@ -2,8 +2,8 @@
 
 #include <QLabel>
 
-/// A label whose link is reached with one press of Tab. A plain QLabel takes a second one to get from the label to the
-/// link in it, and Return would go to the dialog meanwhile.
+/// A label with one link, which has the focus when the label has it. In a plain QLabel the first press of Tab reaches
+/// the label only, so that Return goes to the dialog, and Shift+Tab never leaves the link.
 class LinkLabel : public QLabel {
     Q_OBJECT
 
@@ -12,4 +12,5 @@ public:
 
 protected:
     void focusInEvent(QFocusEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
 };

@@ -1,6 +1,5 @@
 #include "EnterPasswordDialog.h"
 
-#include "CredentialFields.h"
 #include "ui_EnterPasswordDialog.h"
 
 namespace {
@@ -16,8 +15,6 @@ EnterPasswordDialog::EnterPasswordDialog(QWidget*) : ui(new Ui::EnterPasswordDia
     ui->setupUi(this);
     setupWindow();
     setCaption(ui->lblAppName, ui->lblType, tr("Enter password"));
-    keepNoHistory(ui->editAdministratorPassword);
-    keepNoHistory(ui->editZentPassword);
 
     setAccessMode(EitherWay);
     setCustomPasswordSelected(false);

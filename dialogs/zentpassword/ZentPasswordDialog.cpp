@@ -1,6 +1,6 @@
 #include "ZentPasswordDialog.h"
 
-#include "CredentialFields.h"
+#include "HintPicture.h"
 #include "ui_ZentPasswordDialog.h"
 
 ZentPasswordDialog::ZentPasswordDialog(QWidget*) : ui(new Ui::ZentPasswordDialog)
@@ -9,7 +9,6 @@ ZentPasswordDialog::ZentPasswordDialog(QWidget*) : ui(new Ui::ZentPasswordDialog
     setupWindow();
     setCaption(ui->lblAppName, ui->lblType, tr("Enter password"));
     ui->btnContinue->setEnabled(false);
-    keepNoHistory(ui->edPassword);
 
     connect(ui->edPassword, &QLineEdit::textChanged, this, &ZentPasswordDialog::doEnableOk);
     connect(ui->edPassword, &QLineEdit::textChanged, this, &ZentPasswordDialog::doShowPasswordIcon);
