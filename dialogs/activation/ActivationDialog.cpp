@@ -50,7 +50,7 @@ QString withoutInvisibles(QString text)
 }
 } // namespace
 
-ActivationDialog::ActivationDialog(QWidget*) : ui(new Ui::ActivationDialog)
+ActivationDialog::ActivationDialog(QWidget* parent) : BaseDialog(parent), ui(new Ui::ActivationDialog)
 {
     ui->setupUi(this);
     setupWindow();
@@ -78,7 +78,7 @@ QString ActivationDialog::getServerUrl() const
     const int port = portNumber(ui->edPort->text());
     if (url.scheme() != QLatin1String("http") || url.host(QUrl::FullyDecoded).isEmpty()
         || !url.path(QUrl::FullyDecoded).isEmpty() || port == 0)
-        return QString();
+        return {};
 
     url.setScheme(QStringLiteral("https"));
     url.setPort(port);

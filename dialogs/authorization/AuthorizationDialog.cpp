@@ -19,7 +19,7 @@ QString reminderLink(const QString& text)
 }
 } // namespace
 
-AuthorizationDialog::AuthorizationDialog(QWidget*) : ui(new Ui::AuthorizationDialog)
+AuthorizationDialog::AuthorizationDialog(QWidget* parent) : BaseDialog(parent), ui(new Ui::AuthorizationDialog)
 {
     ui->setupUi(this);
     setupWindow();

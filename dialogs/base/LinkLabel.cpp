@@ -9,5 +9,5 @@ void LinkLabel::focusInEvent(QFocusEvent* event)
 
 bool LinkLabel::focusNextPrevChild(bool next)
 {
-    return QWidget::focusNextPrevChild(next);
+    return QWidget::focusNextPrevChild(next); // NOLINT(bugprone-parent-virtual-call): not to the next link
 }

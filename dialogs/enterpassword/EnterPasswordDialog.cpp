@@ -2,6 +2,8 @@
 
 #include "ui_EnterPasswordDialog.h"
 
+#include <QShowEvent>
+
 namespace {
 enum AccessMode {
     AdministratorOnly = 0,
@@ -10,7 +12,7 @@ enum AccessMode {
 };
 } // namespace
 
-EnterPasswordDialog::EnterPasswordDialog(QWidget*) : ui(new Ui::EnterPasswordDialog)
+EnterPasswordDialog::EnterPasswordDialog(QWidget* parent) : BaseDialog(parent), ui(new Ui::EnterPasswordDialog)
 {
     ui->setupUi(this);
     setupWindow();
@@ -126,7 +128,8 @@ void EnterPasswordDialog::accept()
 void EnterPasswordDialog::showEvent(QShowEvent* event)
 {
     // Which field is the first one to type into depends on what the host has set meanwhile.
-    (isCustomPasswordSelected() ? ui->editZentPassword : ui->editDomain)->setFocus();
+    if (!event->spontaneous())
+        (isCustomPasswordSelected() ? ui->editZentPassword : ui->editDomain)->setFocus();
     BaseDialog::showEvent(event);
 }
 

@@ -3,7 +3,7 @@
 #include "HintPicture.h"
 #include "ui_ZentPasswordDialog.h"
 
-ZentPasswordDialog::ZentPasswordDialog(QWidget*) : ui(new Ui::ZentPasswordDialog)
+ZentPasswordDialog::ZentPasswordDialog(QWidget* parent) : BaseDialog(parent), ui(new Ui::ZentPasswordDialog)
 {
     ui->setupUi(this);
     setupWindow();
