@@ -2,11 +2,15 @@
 
 #include "AboutDialog.h"
 #include "AcceptMessageDialog.h"
+#include "ActivationDialog.h"
+#include "AuthorizationDialog.h"
+#include "EnterPasswordDialog.h"
 #include "ErrorMessageDialog.h"
 #include "OptionDialog.h"
 #include "ProgressDialog.h"
 #include "RebootDialog.h"
 #include "ServiceDeskTicketDialog.h"
+#include "ZentPasswordDialog.h"
 #include "loadTranslation.h"
 
 #include <QCoreApplication>
@@ -164,7 +168,7 @@ void Gui::assignTranslations()
 
 DIALOG_FAMILY(AboutDialog)
 
-MISSING_FAMILY(ActivationDialog)
+DIALOG_FAMILY(ActivationDialog)
 
 DIALOG_FAMILY(AcceptMessageDialog)
 
@@ -172,15 +176,15 @@ DIALOG_FAMILY(ErrorMessageDialog)
 
 DIALOG_FAMILY(ProgressDialog)
 
-MISSING_FAMILY(AuthorizationDialog)
+DIALOG_FAMILY(AuthorizationDialog)
 
-MISSING_FAMILY(ZentPasswordDialog)
+DIALOG_FAMILY(ZentPasswordDialog)
 
 DIALOG_FAMILY(OptionDialog)
 
 DIALOG_FAMILY(RebootDialog)
 
-MISSING_FAMILY(EnterPasswordDialog)
+DIALOG_FAMILY(EnterPasswordDialog)
 
 DIALOG_FAMILY(ServiceDeskTicketDialog)
 
