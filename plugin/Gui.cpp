@@ -1,7 +1,9 @@
 #include "Gui.h"
 
 #include "AcceptMessageDialog.h"
+#include "ApproveRemoteConnectionDialog.h"
 #include "ErrorMessageDialog.h"
+#include "RemoteConnectionDialog.h"
 #include "loadTranslation.h"
 
 #include <QCoreApplication>
@@ -12,8 +14,7 @@
 #include <cmath>
 #include <type_traits>
 
-namespace
-{
+namespace {
 template <class Dialog>
 QString registryKey(const QString& id)
 {
@@ -67,7 +68,11 @@ Dialog* Gui::get(const QString& id)
         return static_cast<Dialog*>(existing);
 
     auto* dialog = create<Dialog>();
-    assignStyleSheet(dialog);
+    if constexpr (std::is_same_v<Dialog, ApproveRemoteConnectionDialog>)
+        dialog->setConnectionId(id);
+    // The session window keeps its own look.
+    if constexpr (!std::is_same_v<Dialog, RemoteConnectionDialog>)
+        assignStyleSheet(dialog);
     dialog->setRatio(getRatio());
     store(registryKey<Dialog>(id), dialog);
     return dialog;
@@ -180,24 +185,30 @@ MISSING_FAMILY(EnterPasswordDialog)
 
 MISSING_FAMILY(ServiceDeskTicketDialog)
 
-MISSING_FAMILY(RemoteConnectionDialog)
+DIALOG_FAMILY(RemoteConnectionDialog)
 
-IApproveRemoteConnectionDialog* Gui::getApproveRemoteConnectionDialogInstance(const QString&)
+IApproveRemoteConnectionDialog* Gui::getApproveRemoteConnectionDialogInstance(const QString& id)
 {
-    return nullptr;
+    return get<ApproveRemoteConnectionDialog>(id);
 }
 
-bool Gui::deleteApproveRemoteConnectionDialogInstance(const QString&)
+bool Gui::deleteApproveRemoteConnectionDialogInstance(const QString& id)
 {
-    return false;
+    return remove<ApproveRemoteConnectionDialog>(id);
 }
 
 bool Gui::deleteAllApproveRemoteConnectionDialogInstances()
 {
-    return false;
+    const QString name = registryKey<ApproveRemoteConnectionDialog>(QString());
+    bool anyDeleted = false;
+    for (const QString& key : dialogs.keys()) {
+        if (key.contains(name, Qt::CaseInsensitive) && removeEntry(key))
+            anyDeleted = true;
+    }
+    return anyDeleted;
 }
 
-bool Gui::attachApproveRemoteConnectionDialogEventHandler(const QObject*, const char*, const QString&)
+bool Gui::attachApproveRemoteConnectionDialogEventHandler(const QObject* receiver, const char* slot, const QString& id)
 {
-    return false;
+    return attach<ApproveRemoteConnectionDialog>(receiver, slot, id);
 }

@@ -11,11 +11,9 @@
 /// control characters in them become visible.
 ///
 /// Signal: `dialogEvent(IApproveRemoteConnectionDialog* pSender, IApproveRemoteConnectionDialog::TEvent eventType)`
-class IApproveRemoteConnectionDialog : public virtual IBaseDialog
-{
+class IApproveRemoteConnectionDialog : public virtual IBaseDialog {
 public:
-    enum TEvent
-    {
+    enum TEvent {
         evCancel = 0,  ///< The person refused.
         evAllow = 1,   ///< The person allowed the connection.
         evTimeout = 2, ///< The countdown ran out; the host decides. A countdown of 0 or less reports it at show() and

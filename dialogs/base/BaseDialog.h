@@ -16,8 +16,7 @@ extern const QString productPrefix;
 
 /// What all dialogs have in common: a frameless, translucent window in the middle of the primary screen that is moved
 /// by dragging its surface, accepts on Return and Enter, ignores every other key, and can be scaled.
-class BaseDialog : public QDialog, public virtual IBaseDialog
-{
+class BaseDialog : public QDialog, public virtual IBaseDialog {
     Q_OBJECT
 
 public:
@@ -45,6 +44,15 @@ protected:
     virtual void setCaption(QLabel* prefixLabel, QLabel* titleLabel, const QString& title);
     /// Sets window title and tool tip.
     virtual void setTitle(const QString& title);
+
+    // For dialogs whose layouts place the widgets and which therefore scale limits instead of geometries.
+
+    /// @p ratio within the limits of setRatio(): 1 when it must change nothing.
+    float usableRatio(float ratio) const;
+    /// Where the dialog's top-left corner goes when it is scaled about its centre.
+    QPoint topLeftAtRatio(float ratio) const;
+    /// Scales the size limits and layout margins of @p root and all widgets in it.
+    static void scaleSizeLimits(QWidget* root, float ratio);
 
 private:
     Q_DISABLE_COPY(BaseDialog)

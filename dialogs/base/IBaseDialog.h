@@ -7,8 +7,7 @@
 ///
 /// A dialog never closes itself on a click: it emits `dialogEvent` and stays as it is until the host hides it, ends it
 /// with done() or deletes it. The order of the virtual functions is part of the binary contract.
-class IBaseDialog
-{
+class IBaseDialog {
 public:
     /// Deleting a dialog directly is allowed, but the delete operation of GuiInterface is the usual way: it waits for
     /// the event loop and so is safe inside the dialog's own event handler.

@@ -3,8 +3,7 @@
 #include <QLabel>
 
 /// A label that acts as a button: it emits click() on every mouse press, whatever the button.
-class QLabelEx : public QLabel
-{
+class QLabelEx : public QLabel {
     Q_OBJECT
 
 public:

@@ -13,11 +13,9 @@
 ///
 /// Signal: `dialogEvent(IRemoteConnectionDialog* pSender, IRemoteConnectionDialog::TEvent eventType,
 /// const QString& sessionId)`
-class IRemoteConnectionDialog : public virtual IBaseDialog
-{
+class IRemoteConnectionDialog : public virtual IBaseDialog {
 public:
-    enum TEvent
-    {
+    enum TEvent {
         evRemoteControlSessionEnded = 0, ///< endRemoteControlSession() ran, called by the host or by a panel's End
                                          ///< button: stop that session.
         evEndRemoteToolsSession = 1,     ///< The person ended the tools session: stop it, then call
