@@ -1,9 +1,18 @@
 #include "Gui.h"
 
+#include "AboutDialog.h"
 #include "AcceptMessageDialog.h"
+#include "ActivationDialog.h"
 #include "ApproveRemoteConnectionDialog.h"
+#include "AuthorizationDialog.h"
+#include "EnterPasswordDialog.h"
 #include "ErrorMessageDialog.h"
+#include "OptionDialog.h"
+#include "ProgressDialog.h"
+#include "RebootDialog.h"
 #include "RemoteConnectionDialog.h"
+#include "ServiceDeskTicketDialog.h"
+#include "ZentPasswordDialog.h"
 #include "loadTranslation.h"
 
 #include <QCoreApplication>
@@ -148,42 +157,27 @@ void Gui::assignTranslations()
         return attach<Dialog>(receiver, slot);                                                                         \
     }
 
-// A family whose dialog does not exist yet.
-#define MISSING_FAMILY(Dialog)                                                                                         \
-    I##Dialog* Gui::get##Dialog##Instance()                                                                            \
-    {                                                                                                                  \
-        return nullptr;                                                                                                \
-    }                                                                                                                  \
-    bool Gui::delete##Dialog##Instance()                                                                               \
-    {                                                                                                                  \
-        return false;                                                                                                  \
-    }                                                                                                                  \
-    bool Gui::attach##Dialog##EventHandler(const QObject*, const char*)                                                \
-    {                                                                                                                  \
-        return false;                                                                                                  \
-    }
+DIALOG_FAMILY(AboutDialog)
 
-MISSING_FAMILY(AboutDialog)
-
-MISSING_FAMILY(ActivationDialog)
+DIALOG_FAMILY(ActivationDialog)
 
 DIALOG_FAMILY(AcceptMessageDialog)
 
 DIALOG_FAMILY(ErrorMessageDialog)
 
-MISSING_FAMILY(ProgressDialog)
+DIALOG_FAMILY(ProgressDialog)
 
-MISSING_FAMILY(AuthorizationDialog)
+DIALOG_FAMILY(AuthorizationDialog)
 
-MISSING_FAMILY(ZentPasswordDialog)
+DIALOG_FAMILY(ZentPasswordDialog)
 
-MISSING_FAMILY(OptionDialog)
+DIALOG_FAMILY(OptionDialog)
 
-MISSING_FAMILY(RebootDialog)
+DIALOG_FAMILY(RebootDialog)
 
-MISSING_FAMILY(EnterPasswordDialog)
+DIALOG_FAMILY(EnterPasswordDialog)
 
-MISSING_FAMILY(ServiceDeskTicketDialog)
+DIALOG_FAMILY(ServiceDeskTicketDialog)
 
 DIALOG_FAMILY(RemoteConnectionDialog)
 

@@ -15,8 +15,7 @@ class QDialog;
 QT_END_NAMESPACE
 
 /// The plugin's root object: creates each dialog on first request and knows the live ones by name.
-class Gui : public QObject, public GuiInterface
-{
+class Gui : public QObject, public GuiInterface {
     Q_OBJECT
     Q_INTERFACES(GuiInterface)
     Q_PLUGIN_METADATA(IID "com.brisel.RUV.Plugin.GuiInterface" FILE "Gui.json")

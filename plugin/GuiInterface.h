@@ -45,8 +45,7 @@ class IZentPasswordDialog;
 /// Everything happens on the GUI thread, inside the host's event loop; a QApplication must exist before the plugin is
 /// loaded. Destroying the root object leaves dialogs that were never deleted alive. The order of the virtual functions
 /// is part of the binary contract.
-class GuiInterface
-{
+class GuiInterface {
 public:
     virtual ~GuiInterface() = default;
 

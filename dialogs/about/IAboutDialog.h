@@ -10,11 +10,9 @@
 /// show() brings the box to the front, also when it was minimised.
 ///
 /// Signal: `dialogEvent(IAboutDialog* pSender, IAboutDialog::TEvent eventType)`
-class IAboutDialog : public virtual IBaseDialog
-{
+class IAboutDialog : public virtual IBaseDialog {
 public:
-    enum TEvent
-    {
+    enum TEvent {
         evClose = 0,       ///< OK, the close button, Return or Enter. Hide or delete the box.
         evUpdateNow = 1,   ///< "Update now" was clicked.
         evLinkClicked = 2, ///< The support web site was clicked; the box opens nothing itself. Open the address from

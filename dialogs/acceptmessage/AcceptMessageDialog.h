@@ -6,14 +6,12 @@
 #include <memory>
 
 QT_BEGIN_NAMESPACE
-namespace Ui
-{
+namespace Ui {
 class AcceptMessageDialog;
 }
 QT_END_NAMESPACE
 
-class AcceptMessageDialog final : public BaseDialog, public virtual IAcceptMessageDialog
-{
+class AcceptMessageDialog final : public BaseDialog, public virtual IAcceptMessageDialog {
     Q_OBJECT
 
 public:

@@ -8,11 +8,9 @@
 /// Cancel.
 ///
 /// Signal: `dialogEvent(IAcceptMessageDialog* pSender, IAcceptMessageDialog::TEvent eventType)`
-class IAcceptMessageDialog : public virtual IBaseDialog
-{
+class IAcceptMessageDialog : public virtual IBaseDialog {
 public:
-    enum TEvent
-    {
+    enum TEvent {
         evClose = 0, ///< Cancel or the close button was clicked.
         evOk = 1,    ///< OK was clicked, Return or Enter was pressed, or the window was closed by other means.
     };

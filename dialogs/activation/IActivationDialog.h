@@ -10,11 +10,9 @@
 /// the fields. The dialog never contacts the server.
 ///
 /// Signal: `dialogEvent(IActivationDialog* pSender, IActivationDialog::TEvent eventType)`
-class IActivationDialog : public virtual IBaseDialog
-{
+class IActivationDialog : public virtual IBaseDialog {
 public:
-    enum TEvent
-    {
+    enum TEvent {
         evClose = 0,            ///< Cancel or the close button was clicked.
         evEnroll = 1,           ///< Enroll, Return or Enter; the latter also with incomplete fields. Check
                                 ///< getServerUrl() and getToken() and say what is wrong.

@@ -7,11 +7,9 @@
 /// Asks for the user name and password of the agent's online account. The host checks them.
 ///
 /// Signal: `dialogEvent(IAuthorizationDialog* pSender, IAuthorizationDialog::TEvent eventType)`
-class IAuthorizationDialog : public virtual IBaseDialog
-{
+class IAuthorizationDialog : public virtual IBaseDialog {
 public:
-    enum TEvent
-    {
+    enum TEvent {
         evClose = 0,   ///< Cancel or the close button was clicked.
         evLogin = 1,   ///< Login, Return or Enter; never while the password is empty. Read both values and check them.
         evGoToWeb = 2, ///< "Forgot username or password?" was activated. The dialog opens nothing itself.

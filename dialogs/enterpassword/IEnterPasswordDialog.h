@@ -7,8 +7,7 @@
 #include <memory>
 
 /// Anything a host wants to keep with a credentials prompt until it is answered, for example the action to unlock.
-class IAttachment
-{
+class IAttachment {
 public:
     virtual ~IAttachment() = default;
 };
@@ -17,11 +16,9 @@ public:
 /// Modal; the host checks what was typed.
 ///
 /// Signal: `dialogEvent(IEnterPasswordDialog* pSender, IEnterPasswordDialog::TEvent eventType)`
-class IEnterPasswordDialog : public virtual IBaseDialog
-{
+class IEnterPasswordDialog : public virtual IBaseDialog {
 public:
-    enum TEvent
-    {
+    enum TEvent {
         evOk = 0,           ///< OK, Return or Enter; also with empty fields.
         evCancel = 1,       ///< Cancel was clicked.
         evCloseClicked = 2, ///< Reserved: no widget of the dialog triggers it.

@@ -6,14 +6,12 @@
 #include <memory>
 
 QT_BEGIN_NAMESPACE
-namespace Ui
-{
+namespace Ui {
 class ErrorMessageDialog;
 }
 QT_END_NAMESPACE
 
-class ErrorMessageDialog final : public BaseDialog, public virtual IErrorMessageDialog
-{
+class ErrorMessageDialog final : public BaseDialog, public virtual IErrorMessageDialog {
     Q_OBJECT
 
 public:

@@ -7,11 +7,9 @@
 /// Tells the person that something failed: a picture, a line of text, and Cancel. Return means "try again".
 ///
 /// Signal: `dialogEvent(IErrorMessageDialog* pSender, IErrorMessageDialog::TEvent eventType)`
-class IErrorMessageDialog : public virtual IBaseDialog
-{
+class IErrorMessageDialog : public virtual IBaseDialog {
 public:
-    enum TEvent
-    {
+    enum TEvent {
         evClose = 0,    ///< Cancel or the close button was clicked. Hide or delete the dialog.
         evTryAgain = 1, ///< Return or Enter was pressed. Repeat what failed.
     };

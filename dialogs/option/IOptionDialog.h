@@ -9,11 +9,9 @@
 /// Fill it before show(), read it back on evSave. No text is trimmed.
 ///
 /// Signal: `dialogEvent(IOptionDialog* pSender, IOptionDialog::TEvent eventType)`
-class IOptionDialog : public virtual IBaseDialog
-{
+class IOptionDialog : public virtual IBaseDialog {
 public:
-    enum TEvent
-    {
+    enum TEvent {
         evClose = 0,      ///< Cancel or the close button was clicked. Drop the changes.
         evDeactivate = 1, ///< Reserved: the deactivation button is never visible.
         evSave = 2,       ///< Save, Return or Enter; the latter also with an incomplete proxy, so check the values.

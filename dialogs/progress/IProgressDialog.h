@@ -11,11 +11,9 @@
 /// - `cancelDownload()`: reserved, never emitted;
 /// - `sigWaiterComplete()`: the waiter started with startWaiter() reached 100 percent;
 /// - `dialogEvent(IProgressDialog* pSender, IProgressDialog::TEvent eventType)`.
-class IProgressDialog : public virtual IBaseDialog
-{
+class IProgressDialog : public virtual IBaseDialog {
 public:
-    enum TEvent
-    {
+    enum TEvent {
         evClose = 0,  ///< The window was asked to close by other means than its buttons.
         evCancel = 1, ///< Cancel or the close button was clicked. Stop the work, then hide or delete the dialog.
     };

@@ -10,11 +10,9 @@
 /// shows the dialog again when the period is over.
 ///
 /// Signal: `dialogEvent(IRebootDialog* pSender, IRebootDialog::TEvent event)`
-class IRebootDialog : public virtual IBaseDialog
-{
+class IRebootDialog : public virtual IBaseDialog {
 public:
-    enum TEvent
-    {
+    enum TEvent {
         evRebootNow = 0, ///< Restart (or shut down, see setShutdown()) now.
         evPostpone = 1,  ///< Remind in getPostponePeriod().
         evClosed = 2,    ///< The window was closed by the system or the host; treat it as postponed.

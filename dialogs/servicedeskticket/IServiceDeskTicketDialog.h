@@ -12,11 +12,9 @@
 /// does not count as an edit of the person.
 ///
 /// Signal: `dialogEvent(IServiceDeskTicketDialog* pSender, IServiceDeskTicketDialog::TEvent eventType)`
-class IServiceDeskTicketDialog : public virtual IBaseDialog
-{
+class IServiceDeskTicketDialog : public virtual IBaseDialog {
 public:
-    enum TEvent
-    {
+    enum TEvent {
         evCancel = 0, ///< Closed: nothing was edited, or the person confirmed to discard it.
         evSubmit = 1, ///< Submitted; subject and details are not empty and keep their limits.
     };

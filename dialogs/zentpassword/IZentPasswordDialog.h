@@ -7,11 +7,9 @@
 /// Asks for the custom password set in the management console. Modal; the host checks the password.
 ///
 /// Signal: `dialogEvent(IZentPasswordDialog* pSender, IZentPasswordDialog::TEvent eventType)`
-class IZentPasswordDialog : public virtual IBaseDialog
-{
+class IZentPasswordDialog : public virtual IBaseDialog {
 public:
-    enum TEvent
-    {
+    enum TEvent {
         evClose = 0,    ///< Cancel was clicked or the window was asked to close.
         evContinue = 1, ///< Continue, Return or Enter; never while the password is empty.
     };

@@ -6,8 +6,7 @@
 ///
 /// A deployment replaces the company name, the agent's name and the support contacts with an INI file "oem.strings"
 /// beside the host executable. A key that is missing or empty leaves its default.
-struct BrandingStrings
-{
+struct BrandingStrings {
     /// Reads "oem.strings" in @p directory.
     explicit BrandingStrings(const QString& directory);
 

@@ -2,8 +2,7 @@
 
 #include <cstdlib>
 
-namespace
-{
+namespace {
 std::string environmentValue(const char* name)
 {
     const char* value = std::getenv(name);

@@ -1,3 +1,690 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="da"/>
+<TS version="2.1" language="da_DK">
+<context>
+    <name>AboutDialog</name>
+    <message>
+        <source>Brisel Tavik About</source>
+        <translation>Om Brisel Tavik</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Update now</source>
+        <translation>Opdater nu</translation>
+    </message>
+    <message>
+        <source>Version:</source>
+        <translation>Version:</translation>
+    </message>
+    <message>
+        <source>Support phone: </source>
+        <translation>Supporttelefon: </translation>
+    </message>
+    <message>
+        <source>Support email: </source>
+        <translation>Supportmail: </translation>
+    </message>
+    <message>
+        <source>All rights reserved</source>
+        <translation>Alle rettigheder forbeholdes</translation>
+    </message>
+    <message>
+        <source>Server:</source>
+        <translation>Server:</translation>
+    </message>
+    <message>
+        <source>n/a</source>
+        <translation>ikke tilgængelig</translation>
+    </message>
+    <message>
+        <source>Last communication session: </source>
+        <translation>Seneste kommunikation: </translation>
+    </message>
+    <message>
+        <source>Support web-site: </source>
+        <translation>Supportwebsted: </translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Om</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Luk</translation>
+    </message>
+</context>
+<context>
+    <name>AcceptMessageDialog</name>
+    <message>
+        <source>Brisel Tavik Message</source>
+        <translation>Brisel Tavik – Meddelelse</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Success</source>
+        <translation>Gennemført</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuller</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Luk</translation>
+    </message>
+</context>
+<context>
+    <name>ActivationDialog</name>
+    <message>
+        <source>Brisel Tavik Activation</source>
+        <translation>Brisel Tavik – Aktivering</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>You need to enroll Tavik by providing host, port and token from Device Enrollment email and pressing &quot;Enroll&quot; button.</source>
+        <translation>Du skal tilmelde Tavik ved at angive vært, port og token fra mailen om enhedstilmelding og klikke på knappen ”Tilmeld”.</translation>
+    </message>
+    <message>
+        <source>Tavik needs to be enrolled
+in order to manage this device</source>
+        <translation>Tavik skal tilmeldes,
+for at denne enhed kan administreres</translation>
+    </message>
+    <message>
+        <source>Enrollment Required</source>
+        <translation>Tilmelding påkrævet</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuller</translation>
+    </message>
+    <message>
+        <source>Enroll</source>
+        <translation>Tilmeld</translation>
+    </message>
+    <message>
+        <source>Host:</source>
+        <translation>Vært:</translation>
+    </message>
+    <message>
+        <source>Token:</source>
+        <translation>Token:</translation>
+    </message>
+    <message>
+        <source>Port:</source>
+        <translation>Port:</translation>
+    </message>
+    <message>
+        <source>Please set up host, port and token from Device Enrollment email.</source>
+        <translation>Angiv vært, port og token fra mailen om enhedstilmelding.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Luk</translation>
+    </message>
+</context>
+<context>
+    <name>ApproveRemoteConnectionDialog</name>
+    <message>
+        <source>Remote control</source>
+        <translation>Fjernstyring</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>Tillad</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuller</translation>
+    </message>
+    <message>
+        <source>Remote tools</source>
+        <translation>Fjernværktøjer</translation>
+    </message>
+    <message>
+        <source>Remote access</source>
+        <translation>Fjernadgang</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Meddelelse</translation>
+    </message>
+    <message>
+        <source>Time left to answer in seconds: %1</source>
+        <translation>Resterende svartid i sekunder: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n second(s) left to answer</source>
+        <translation>
+            <numerusform>%n sekund tilbage til at svare</numerusform>
+            <numerusform>%n sekunder tilbage til at svare</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>AuthorizationDialog</name>
+    <message>
+        <source>Brisel Tavik Login</source>
+        <translation>Brisel Tavik – Log på</translation>
+    </message>
+    <message>
+        <source>Forgot username or password?</source>
+        <translation>Glemt brugernavn eller kodeord?</translation>
+    </message>
+    <message>
+        <source>Login</source>
+        <translation>Log på</translation>
+    </message>
+    <message>
+        <source>Authorization Required</source>
+        <translation>Autorisation påkrævet</translation>
+    </message>
+    <message>
+        <source>You need to login with your Brisel Tavik online account in order to continue</source>
+        <translation>Du skal logge på med din Brisel Tavik-onlinekonto for at fortsætte</translation>
+    </message>
+    <message>
+        <source>Please login with your Brisel Tavik</source>
+        <translation>Log på med din Brisel Tavik-konto</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuller</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Kodeord:</translation>
+    </message>
+    <message>
+        <source>Username:</source>
+        <translation>Bruger:</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Luk</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Kodeord</translation>
+    </message>
+</context>
+<context>
+    <name>EnterPasswordDialog</name>
+    <message>
+        <source>Dialog</source>
+        <translation>Dialogboks</translation>
+    </message>
+    <message>
+        <source>Authorization Required</source>
+        <translation>Autorisation påkrævet</translation>
+    </message>
+    <message>
+        <source>Please enter your credentials in order to continue</source>
+        <translation>Indtast dine legitimationsoplysninger for at fortsætte</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuller</translation>
+    </message>
+    <message>
+        <source>Computer Administrator (A Windows account with administrative privileges)</source>
+        <translation>Computeradministrator (en Windows-konto med administratorrettigheder)</translation>
+    </message>
+    <message>
+        <source>Ostrel Custom Password</source>
+        <translation>Brugerdefineret Ostrel-kodeord</translation>
+    </message>
+    <message>
+        <source>Domain:</source>
+        <translation>Domæne:</translation>
+    </message>
+    <message>
+        <source>Login:</source>
+        <translation>Bruger:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Kodeord:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Enter password</source>
+        <translation>Indtast kodeord</translation>
+    </message>
+</context>
+<context>
+    <name>ErrorMessageDialog</name>
+    <message>
+        <source>Brisel Tavik Message</source>
+        <translation>Brisel Tavik – Meddelelse</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fejl</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Prøv igen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuller</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Luk</translation>
+    </message>
+</context>
+<context>
+    <name>OptionDialog</name>
+    <message>
+        <source>BRISEL Tavik: Options</source>
+        <translation>BRISEL Tavik: Indstillinger</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Gem</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuller</translation>
+    </message>
+    <message>
+        <source>Proxy settings</source>
+        <translation>Proxyindstillinger</translation>
+    </message>
+    <message>
+        <source>Host:</source>
+        <translation>Vært:</translation>
+    </message>
+    <message>
+        <source>Port:</source>
+        <translation>Port:</translation>
+    </message>
+    <message>
+        <source>Authentication</source>
+        <translation>Godkendelse</translation>
+    </message>
+    <message>
+        <source>Login:</source>
+        <translation>Bruger:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Kodeord:</translation>
+    </message>
+    <message>
+        <source>Show tray icon on the taskbar</source>
+        <translation>Vis ikon i meddelelsesområdet på proceslinjen</translation>
+    </message>
+    <message>
+        <source>Automatically download and install program updates</source>
+        <translation>Hent og installer automatisk programopdateringer</translation>
+    </message>
+    <message>
+        <source>Deactivate ZENT Agent...</source>
+        <translation>Deaktiver ZENT Agent...</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Indstillinger</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Luk</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressDialog</name>
+    <message>
+        <source>Brisel Tavik Message</source>
+        <translation>Brisel Tavik – Meddelelse</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Meddelelse</translation>
+    </message>
+    <message>
+        <source>0%</source>
+        <translation>0%</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuller</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Luk</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Status</translation>
+    </message>
+</context>
+<context>
+    <name>RebootDialog</name>
+    <message>
+        <source>Tavik Reboot</source>
+        <translation>Tavik – Genstart</translation>
+    </message>
+    <message>
+        <source>Reboot now</source>
+        <translation>Genstart nu</translation>
+    </message>
+    <message>
+        <source>Postpone</source>
+        <translation>Udsæt</translation>
+    </message>
+    <message>
+        <source>10 minutes</source>
+        <translation>10 minutter</translation>
+    </message>
+    <message>
+        <source>30 minutes</source>
+        <translation>30 minutter</translation>
+    </message>
+    <message>
+        <source>1 hour</source>
+        <translation>1 time</translation>
+    </message>
+    <message>
+        <source>4 hours</source>
+        <translation>4 timer</translation>
+    </message>
+    <message>
+        <source>Remind me in</source>
+        <translation>Påmind mig om</translation>
+    </message>
+    <message>
+        <source>Shutdown now</source>
+        <translation>Luk ned nu</translation>
+    </message>
+    <message>
+        <source>Reason for the restart</source>
+        <translation>Årsag til genstart</translation>
+    </message>
+</context>
+<context>
+    <name>RemoteConnectionDialog</name>
+    <message>
+        <source>Remote Control by Corvane</source>
+        <translation>Fjernstyring fra Corvane</translation>
+    </message>
+    <message>
+        <source>Remote Tool Session</source>
+        <translation>Fjernværktøjssession</translation>
+    </message>
+    <message>
+        <source>File Transfer Session</source>
+        <translation>Filoverførselssession</translation>
+    </message>
+    <message>
+        <source>00:00:00</source>
+        <translation>00:00:00</translation>
+    </message>
+    <message>
+        <source>End session</source>
+        <translation>Afslut session</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Luk</translation>
+    </message>
+    <message>
+        <source>Remote Control Session</source>
+        <translation>Fjernstyringssession</translation>
+    </message>
+    <message>
+        <source>Username</source>
+        <translation>Brugernavn</translation>
+    </message>
+    <message>
+        <source>File uploaded</source>
+        <translation>Fil uploadet</translation>
+    </message>
+    <message>
+        <source>Upload aborted</source>
+        <translation>Upload afbrudt</translation>
+    </message>
+    <message>
+        <source>Upload cancelled</source>
+        <translation>Upload annulleret</translation>
+    </message>
+    <message>
+        <source>File downloaded</source>
+        <translation>Fil hentet</translation>
+    </message>
+    <message>
+        <source>Download aborted</source>
+        <translation>Hentning afbrudt</translation>
+    </message>
+    <message>
+        <source>Download cancelled</source>
+        <translation>Hentning annulleret</translation>
+    </message>
+    <message>
+        <source>Folder uploaded</source>
+        <translation>Mappe uploadet</translation>
+    </message>
+    <message>
+        <source>Folder downloaded</source>
+        <translation>Mappe hentet</translation>
+    </message>
+    <message>
+        <source>File deleted</source>
+        <translation>Fil slettet</translation>
+    </message>
+    <message>
+        <source>File renamed</source>
+        <translation>Fil omdøbt</translation>
+    </message>
+    <message>
+        <source>Folder deleted</source>
+        <translation>Mappe slettet</translation>
+    </message>
+    <message>
+        <source>Folder renamed</source>
+        <translation>Mappe omdøbt</translation>
+    </message>
+    <message>
+        <source>Folder created</source>
+        <translation>Mappe oprettet</translation>
+    </message>
+    <message>
+        <source>Process ended</source>
+        <translation>Proces afsluttet</translation>
+    </message>
+    <message>
+        <source>Service started</source>
+        <translation>Tjeneste startet</translation>
+    </message>
+    <message>
+        <source>Service stopped</source>
+        <translation>Tjeneste stoppet</translation>
+    </message>
+    <message>
+        <source>Service restarted</source>
+        <translation>Tjeneste genstartet</translation>
+    </message>
+    <message>
+        <source>Service paused</source>
+        <translation>Tjeneste sat på pause</translation>
+    </message>
+    <message>
+        <source>Service resumed</source>
+        <translation>Tjeneste genoptaget</translation>
+    </message>
+    <message>
+        <source>Session suspended</source>
+        <translation>Session midlertidigt afbrudt</translation>
+    </message>
+    <message>
+        <source>Session resumed</source>
+        <translation>Session genoptaget</translation>
+    </message>
+    <message>
+        <source>Hide window</source>
+        <translation>Skjul vindue</translation>
+    </message>
+    <message>
+        <source>Show or hide the activity log</source>
+        <translation>Vis eller skjul aktivitetsloggen</translation>
+    </message>
+    <message>
+        <source>Activity log</source>
+        <translation>Aktivitetslog</translation>
+    </message>
+</context>
+<context>
+    <name>ServiceDeskTicketDialog</name>
+    <message>
+        <source>Brisel Tavik: Submit Ticket</source>
+        <translation>Brisel Tavik: Indsend sag</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Please fill in the fields below and describe details of your issue:</source>
+        <translation>Udfyld felterne nedenfor, og beskriv dit problem i detaljer:</translation>
+    </message>
+    <message>
+        <source>Issue Summary</source>
+        <translation>Kort beskrivelse</translation>
+    </message>
+    <message>
+        <source>Department</source>
+        <translation>Afdeling</translation>
+    </message>
+    <message>
+        <source>Priority Level</source>
+        <translation>Prioritetsniveau</translation>
+    </message>
+    <message>
+        <source>Issue Details</source>
+        <translation>Detaljer om problemet</translation>
+    </message>
+    <message>
+        <source>Include device data (brand, model, serial number, logged on user, domain/workgroup)</source>
+        <translation>Medtag enhedsdata (mærke, model, serienummer, pålogget bruger, domæne/arbejdsgruppe)</translation>
+    </message>
+    <message>
+        <source>Note: Company, Device Name and Owner are included by default.</source>
+        <translation>Bemærk: Firma, enhedsnavn og ejer medtages som standard.</translation>
+    </message>
+    <message>
+        <source>Submit</source>
+        <translation>Indsend</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuller</translation>
+    </message>
+    <message>
+        <source>Required</source>
+        <translation>Påkrævet</translation>
+    </message>
+    <message>
+        <source>Required (max. %1 chars)</source>
+        <translation>Påkrævet (maks. %1 tegn)</translation>
+    </message>
+    <message>
+        <source>Submit ticket</source>
+        <translation>Indsend sag</translation>
+    </message>
+    <message>
+        <source>Ticket not submitted</source>
+        <translation>Sagen er ikke indsendt</translation>
+    </message>
+    <message>
+        <source>Do you want to discard all changes?</source>
+        <translation>Vil du kassere alle ændringer?</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Luk</translation>
+    </message>
+</context>
+<context>
+    <name>ZentPasswordDialog</name>
+    <message>
+        <source>Brisel Tavik Login</source>
+        <translation>Brisel Tavik – Log på</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Fortsæt</translation>
+    </message>
+    <message>
+        <source>Authorization Required</source>
+        <translation>Autorisation påkrævet</translation>
+    </message>
+    <message>
+        <source>You need to enter Zent Custom Password
+in order to continue</source>
+        <translation>Du skal indtaste det brugerdefinerede Zent-kodeord
+for at fortsætte</translation>
+    </message>
+    <message>
+        <source>Please enter Zent Custom Password</source>
+        <translation>Indtast det brugerdefinerede Zent-kodeord</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuller</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Kodeord:</translation>
+    </message>
+    <message>
+        <source>Enter password</source>
+        <translation>Indtast kodeord</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Kodeord</translation>
+    </message>
+</context>
+</TS>

@@ -1,3 +1,690 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="de"/>
+<TS version="2.1" language="de_DE">
+<context>
+    <name>AboutDialog</name>
+    <message>
+        <source>Brisel Tavik About</source>
+        <translation>Info zu Brisel Tavik</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Update now</source>
+        <translation>Jetzt aktualisieren</translation>
+    </message>
+    <message>
+        <source>Version:</source>
+        <translation>Version:</translation>
+    </message>
+    <message>
+        <source>Support phone: </source>
+        <translation>Supporttelefon: </translation>
+    </message>
+    <message>
+        <source>Support email: </source>
+        <translation>Support-E-Mail: </translation>
+    </message>
+    <message>
+        <source>All rights reserved</source>
+        <translation>Alle Rechte vorbehalten</translation>
+    </message>
+    <message>
+        <source>Server:</source>
+        <translation>Server:</translation>
+    </message>
+    <message>
+        <source>n/a</source>
+        <translation>nicht verfügbar</translation>
+    </message>
+    <message>
+        <source>Last communication session: </source>
+        <translation>Letzte Kommunikation: </translation>
+    </message>
+    <message>
+        <source>Support web-site: </source>
+        <translation>Support-Website: </translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Info</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>AcceptMessageDialog</name>
+    <message>
+        <source>Brisel Tavik Message</source>
+        <translation>Brisel Tavik – Meldung</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Success</source>
+        <translation>Erfolgreich</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>ActivationDialog</name>
+    <message>
+        <source>Brisel Tavik Activation</source>
+        <translation>Brisel Tavik – Aktivierung</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>You need to enroll Tavik by providing host, port and token from Device Enrollment email and pressing &quot;Enroll&quot; button.</source>
+        <translation>Registrieren Sie Tavik: Geben Sie Host, Port und Token aus der E-Mail zur Geräteregistrierung ein und klicken Sie auf „Registrieren“.</translation>
+    </message>
+    <message>
+        <source>Tavik needs to be enrolled
+in order to manage this device</source>
+        <translation>Tavik muss registriert werden,
+um dieses Gerät zu verwalten</translation>
+    </message>
+    <message>
+        <source>Enrollment Required</source>
+        <translation>Registrierung erforderlich</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Enroll</source>
+        <translation>Registrieren</translation>
+    </message>
+    <message>
+        <source>Host:</source>
+        <translation>Host:</translation>
+    </message>
+    <message>
+        <source>Token:</source>
+        <translation>Token:</translation>
+    </message>
+    <message>
+        <source>Port:</source>
+        <translation>Port:</translation>
+    </message>
+    <message>
+        <source>Please set up host, port and token from Device Enrollment email.</source>
+        <translation>Bitte geben Sie Host, Port und Token aus der E-Mail zur Geräteregistrierung ein.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>ApproveRemoteConnectionDialog</name>
+    <message>
+        <source>Remote control</source>
+        <translation>Remotesteuerung</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>Zulassen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Remote tools</source>
+        <translation>Remotetools</translation>
+    </message>
+    <message>
+        <source>Remote access</source>
+        <translation>Remotezugriff</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Meldung</translation>
+    </message>
+    <message>
+        <source>Time left to answer in seconds: %1</source>
+        <translation>Verbleibende Antwortzeit in Sekunden: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n second(s) left to answer</source>
+        <translation>
+            <numerusform>Noch %n Sekunde zum Antworten</numerusform>
+            <numerusform>Noch %n Sekunden zum Antworten</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>AuthorizationDialog</name>
+    <message>
+        <source>Brisel Tavik Login</source>
+        <translation>Brisel Tavik – Anmelden</translation>
+    </message>
+    <message>
+        <source>Forgot username or password?</source>
+        <translation>Anmeldedaten vergessen?</translation>
+    </message>
+    <message>
+        <source>Login</source>
+        <translation>Anmelden</translation>
+    </message>
+    <message>
+        <source>Authorization Required</source>
+        <translation>Autorisierung erforderlich</translation>
+    </message>
+    <message>
+        <source>You need to login with your Brisel Tavik online account in order to continue</source>
+        <translation>Melden Sie sich mit Ihrem Brisel Tavik-Onlinekonto an, um fortzufahren</translation>
+    </message>
+    <message>
+        <source>Please login with your Brisel Tavik</source>
+        <translation>Bitte melden Sie sich mit Ihrem Brisel Tavik-Konto an</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Kennwort:</translation>
+    </message>
+    <message>
+        <source>Username:</source>
+        <translation>Benutzer:</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Kennwort</translation>
+    </message>
+</context>
+<context>
+    <name>EnterPasswordDialog</name>
+    <message>
+        <source>Dialog</source>
+        <translation>Dialog</translation>
+    </message>
+    <message>
+        <source>Authorization Required</source>
+        <translation>Autorisierung erforderlich</translation>
+    </message>
+    <message>
+        <source>Please enter your credentials in order to continue</source>
+        <translation>Geben Sie Ihre Anmeldedaten ein, um fortzufahren</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Computer Administrator (A Windows account with administrative privileges)</source>
+        <translation>Computeradministrator (ein Windows-Konto mit Administratorrechten)</translation>
+    </message>
+    <message>
+        <source>Ostrel Custom Password</source>
+        <translation>Benutzerdefiniertes Ostrel-Kennwort</translation>
+    </message>
+    <message>
+        <source>Domain:</source>
+        <translation>Domäne:</translation>
+    </message>
+    <message>
+        <source>Login:</source>
+        <translation>Benutzer:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Kennwort:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Enter password</source>
+        <translation>Kennwort eingeben</translation>
+    </message>
+</context>
+<context>
+    <name>ErrorMessageDialog</name>
+    <message>
+        <source>Brisel Tavik Message</source>
+        <translation>Brisel Tavik – Meldung</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>OptionDialog</name>
+    <message>
+        <source>BRISEL Tavik: Options</source>
+        <translation>BRISEL Tavik: Optionen</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Proxy settings</source>
+        <translation>Proxyeinstellungen</translation>
+    </message>
+    <message>
+        <source>Host:</source>
+        <translation>Host:</translation>
+    </message>
+    <message>
+        <source>Port:</source>
+        <translation>Port:</translation>
+    </message>
+    <message>
+        <source>Authentication</source>
+        <translation>Authentifizierung</translation>
+    </message>
+    <message>
+        <source>Login:</source>
+        <translation>Benutzer:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Kennwort:</translation>
+    </message>
+    <message>
+        <source>Show tray icon on the taskbar</source>
+        <translation>Symbol im Infobereich der Taskleiste anzeigen</translation>
+    </message>
+    <message>
+        <source>Automatically download and install program updates</source>
+        <translation>Programmupdates automatisch herunterladen und installieren</translation>
+    </message>
+    <message>
+        <source>Deactivate ZENT Agent...</source>
+        <translation>ZENT Agent deaktivieren...</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Optionen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressDialog</name>
+    <message>
+        <source>Brisel Tavik Message</source>
+        <translation>Brisel Tavik – Meldung</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Meldung</translation>
+    </message>
+    <message>
+        <source>0%</source>
+        <translation>0%</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+</context>
+<context>
+    <name>RebootDialog</name>
+    <message>
+        <source>Tavik Reboot</source>
+        <translation>Tavik – Neustart</translation>
+    </message>
+    <message>
+        <source>Reboot now</source>
+        <translation>Jetzt neu starten</translation>
+    </message>
+    <message>
+        <source>Postpone</source>
+        <translation>Später erinnern</translation>
+    </message>
+    <message>
+        <source>10 minutes</source>
+        <translation>10 Minuten</translation>
+    </message>
+    <message>
+        <source>30 minutes</source>
+        <translation>30 Minuten</translation>
+    </message>
+    <message>
+        <source>1 hour</source>
+        <translation>1 Stunde</translation>
+    </message>
+    <message>
+        <source>4 hours</source>
+        <translation>4 Stunden</translation>
+    </message>
+    <message>
+        <source>Remind me in</source>
+        <translation>Erneut erinnern in</translation>
+    </message>
+    <message>
+        <source>Shutdown now</source>
+        <translation>Herunterfahren</translation>
+    </message>
+    <message>
+        <source>Reason for the restart</source>
+        <translation>Grund für den Neustart</translation>
+    </message>
+</context>
+<context>
+    <name>RemoteConnectionDialog</name>
+    <message>
+        <source>Remote Control by Corvane</source>
+        <translation>Remotesteuerung von Corvane</translation>
+    </message>
+    <message>
+        <source>Remote Tool Session</source>
+        <translation>Remotetools</translation>
+    </message>
+    <message>
+        <source>File Transfer Session</source>
+        <translation>Dateiübertragung</translation>
+    </message>
+    <message>
+        <source>00:00:00</source>
+        <translation>00:00:00</translation>
+    </message>
+    <message>
+        <source>End session</source>
+        <translation>Sitzung beenden</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Remote Control Session</source>
+        <translation>Remotesteuerung</translation>
+    </message>
+    <message>
+        <source>Username</source>
+        <translation>Benutzername</translation>
+    </message>
+    <message>
+        <source>File uploaded</source>
+        <translation>Datei hochgeladen</translation>
+    </message>
+    <message>
+        <source>Upload aborted</source>
+        <translation>Upload unterbrochen</translation>
+    </message>
+    <message>
+        <source>Upload cancelled</source>
+        <translation>Upload abgebrochen</translation>
+    </message>
+    <message>
+        <source>File downloaded</source>
+        <translation>Datei heruntergeladen</translation>
+    </message>
+    <message>
+        <source>Download aborted</source>
+        <translation>Download unterbrochen</translation>
+    </message>
+    <message>
+        <source>Download cancelled</source>
+        <translation>Download abgebrochen</translation>
+    </message>
+    <message>
+        <source>Folder uploaded</source>
+        <translation>Ordner hochgeladen</translation>
+    </message>
+    <message>
+        <source>Folder downloaded</source>
+        <translation>Ordner heruntergeladen</translation>
+    </message>
+    <message>
+        <source>File deleted</source>
+        <translation>Datei gelöscht</translation>
+    </message>
+    <message>
+        <source>File renamed</source>
+        <translation>Datei umbenannt</translation>
+    </message>
+    <message>
+        <source>Folder deleted</source>
+        <translation>Ordner gelöscht</translation>
+    </message>
+    <message>
+        <source>Folder renamed</source>
+        <translation>Ordner umbenannt</translation>
+    </message>
+    <message>
+        <source>Folder created</source>
+        <translation>Ordner erstellt</translation>
+    </message>
+    <message>
+        <source>Process ended</source>
+        <translation>Prozess beendet</translation>
+    </message>
+    <message>
+        <source>Service started</source>
+        <translation>Dienst gestartet</translation>
+    </message>
+    <message>
+        <source>Service stopped</source>
+        <translation>Dienst beendet</translation>
+    </message>
+    <message>
+        <source>Service restarted</source>
+        <translation>Dienst neu gestartet</translation>
+    </message>
+    <message>
+        <source>Service paused</source>
+        <translation>Dienst angehalten</translation>
+    </message>
+    <message>
+        <source>Service resumed</source>
+        <translation>Dienst fortgesetzt</translation>
+    </message>
+    <message>
+        <source>Session suspended</source>
+        <translation>Sitzung angehalten</translation>
+    </message>
+    <message>
+        <source>Session resumed</source>
+        <translation>Sitzung fortgesetzt</translation>
+    </message>
+    <message>
+        <source>Hide window</source>
+        <translation>Fenster ausblenden</translation>
+    </message>
+    <message>
+        <source>Show or hide the activity log</source>
+        <translation>Aktivitätsprotokoll ein- oder ausblenden</translation>
+    </message>
+    <message>
+        <source>Activity log</source>
+        <translation>Aktivitätsprotokoll</translation>
+    </message>
+</context>
+<context>
+    <name>ServiceDeskTicketDialog</name>
+    <message>
+        <source>Brisel Tavik: Submit Ticket</source>
+        <translation>Brisel Tavik: Ticket absenden</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Please fill in the fields below and describe details of your issue:</source>
+        <translation>Bitte füllen Sie die folgenden Felder aus und beschreiben Sie Ihr Problem genau:</translation>
+    </message>
+    <message>
+        <source>Issue Summary</source>
+        <translation>Kurzbeschreibung</translation>
+    </message>
+    <message>
+        <source>Department</source>
+        <translation>Abteilung</translation>
+    </message>
+    <message>
+        <source>Priority Level</source>
+        <translation>Prioritätsstufe</translation>
+    </message>
+    <message>
+        <source>Issue Details</source>
+        <translation>Problembeschreibung</translation>
+    </message>
+    <message>
+        <source>Include device data (brand, model, serial number, logged on user, domain/workgroup)</source>
+        <translation>Gerätedaten mitsenden (Marke, Modell, Seriennummer, angemeldeter Benutzer, Domäne/Arbeitsgruppe)</translation>
+    </message>
+    <message>
+        <source>Note: Company, Device Name and Owner are included by default.</source>
+        <translation>Hinweis: Unternehmen, Gerätename und Besitzer sind standardmäßig enthalten.</translation>
+    </message>
+    <message>
+        <source>Submit</source>
+        <translation>Absenden</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Required</source>
+        <translation>Erforderlich</translation>
+    </message>
+    <message>
+        <source>Required (max. %1 chars)</source>
+        <translation>Erforderlich (max. %1 Zeichen)</translation>
+    </message>
+    <message>
+        <source>Submit ticket</source>
+        <translation>Ticket absenden</translation>
+    </message>
+    <message>
+        <source>Ticket not submitted</source>
+        <translation>Ticket nicht abgesendet</translation>
+    </message>
+    <message>
+        <source>Do you want to discard all changes?</source>
+        <translation>Möchten Sie alle Änderungen verwerfen?</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>ZentPasswordDialog</name>
+    <message>
+        <source>Brisel Tavik Login</source>
+        <translation>Brisel Tavik – Anmelden</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Fortfahren</translation>
+    </message>
+    <message>
+        <source>Authorization Required</source>
+        <translation>Autorisierung erforderlich</translation>
+    </message>
+    <message>
+        <source>You need to enter Zent Custom Password
+in order to continue</source>
+        <translation>Geben Sie das benutzerdefinierte Zent-Kennwort ein,
+um fortzufahren</translation>
+    </message>
+    <message>
+        <source>Please enter Zent Custom Password</source>
+        <translation>Bitte geben Sie das benutzerdefinierte Zent-Kennwort ein</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Kennwort:</translation>
+    </message>
+    <message>
+        <source>Enter password</source>
+        <translation>Kennwort eingeben</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Kennwort</translation>
+    </message>
+</context>
+</TS>

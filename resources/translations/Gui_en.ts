@@ -1,3 +1,690 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="en"/>
+<TS version="2.1" language="en_US">
+<context>
+    <name>AboutDialog</name>
+    <message>
+        <source>Brisel Tavik About</source>
+        <translation>Brisel Tavik About</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Update now</source>
+        <translation>Update now</translation>
+    </message>
+    <message>
+        <source>Version:</source>
+        <translation>Version:</translation>
+    </message>
+    <message>
+        <source>Support phone: </source>
+        <translation>Support phone: </translation>
+    </message>
+    <message>
+        <source>Support email: </source>
+        <translation>Support email: </translation>
+    </message>
+    <message>
+        <source>All rights reserved</source>
+        <translation>All rights reserved</translation>
+    </message>
+    <message>
+        <source>Server:</source>
+        <translation>Server:</translation>
+    </message>
+    <message>
+        <source>n/a</source>
+        <translation>n/a</translation>
+    </message>
+    <message>
+        <source>Last communication session: </source>
+        <translation>Last communication session: </translation>
+    </message>
+    <message>
+        <source>Support web-site: </source>
+        <translation>Support web-site: </translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>About</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+</context>
+<context>
+    <name>AcceptMessageDialog</name>
+    <message>
+        <source>Brisel Tavik Message</source>
+        <translation>Brisel Tavik Message</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Success</source>
+        <translation>Success</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+</context>
+<context>
+    <name>ActivationDialog</name>
+    <message>
+        <source>Brisel Tavik Activation</source>
+        <translation>Brisel Tavik Activation</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>You need to enroll Tavik by providing host, port and token from Device Enrollment email and pressing &quot;Enroll&quot; button.</source>
+        <translation>You need to enroll Tavik by providing host, port and token from Device Enrollment email and pressing &quot;Enroll&quot; button.</translation>
+    </message>
+    <message>
+        <source>Tavik needs to be enrolled
+in order to manage this device</source>
+        <translation>Tavik needs to be enrolled
+in order to manage this device</translation>
+    </message>
+    <message>
+        <source>Enrollment Required</source>
+        <translation>Enrollment Required</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Enroll</source>
+        <translation>Enroll</translation>
+    </message>
+    <message>
+        <source>Host:</source>
+        <translation>Host:</translation>
+    </message>
+    <message>
+        <source>Token:</source>
+        <translation>Token:</translation>
+    </message>
+    <message>
+        <source>Port:</source>
+        <translation>Port:</translation>
+    </message>
+    <message>
+        <source>Please set up host, port and token from Device Enrollment email.</source>
+        <translation>Please set up host, port and token from Device Enrollment email.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+</context>
+<context>
+    <name>ApproveRemoteConnectionDialog</name>
+    <message>
+        <source>Remote control</source>
+        <translation>Remote control</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>Allow</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Remote tools</source>
+        <translation>Remote tools</translation>
+    </message>
+    <message>
+        <source>Remote access</source>
+        <translation>Remote access</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Message</translation>
+    </message>
+    <message>
+        <source>Time left to answer in seconds: %1</source>
+        <translation>Time left to answer in seconds: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n second(s) left to answer</source>
+        <translation>
+            <numerusform>%n second left to answer</numerusform>
+            <numerusform>%n seconds left to answer</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>AuthorizationDialog</name>
+    <message>
+        <source>Brisel Tavik Login</source>
+        <translation>Brisel Tavik Login</translation>
+    </message>
+    <message>
+        <source>Forgot username or password?</source>
+        <translation>Forgot username or password?</translation>
+    </message>
+    <message>
+        <source>Login</source>
+        <translation>Login</translation>
+    </message>
+    <message>
+        <source>Authorization Required</source>
+        <translation>Authorization Required</translation>
+    </message>
+    <message>
+        <source>You need to login with your Brisel Tavik online account in order to continue</source>
+        <translation>You need to login with your Brisel Tavik online account in order to continue</translation>
+    </message>
+    <message>
+        <source>Please login with your Brisel Tavik</source>
+        <translation>Please login with your Brisel Tavik</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Password:</translation>
+    </message>
+    <message>
+        <source>Username:</source>
+        <translation>Username:</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Password</translation>
+    </message>
+</context>
+<context>
+    <name>EnterPasswordDialog</name>
+    <message>
+        <source>Dialog</source>
+        <translation>Dialog</translation>
+    </message>
+    <message>
+        <source>Authorization Required</source>
+        <translation>Authorization Required</translation>
+    </message>
+    <message>
+        <source>Please enter your credentials in order to continue</source>
+        <translation>Please enter your credentials in order to continue</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Computer Administrator (A Windows account with administrative privileges)</source>
+        <translation>Computer Administrator (A Windows account with administrative privileges)</translation>
+    </message>
+    <message>
+        <source>Ostrel Custom Password</source>
+        <translation>Ostrel Custom Password</translation>
+    </message>
+    <message>
+        <source>Domain:</source>
+        <translation>Domain:</translation>
+    </message>
+    <message>
+        <source>Login:</source>
+        <translation>Login:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Password:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Enter password</source>
+        <translation>Enter password</translation>
+    </message>
+</context>
+<context>
+    <name>ErrorMessageDialog</name>
+    <message>
+        <source>Brisel Tavik Message</source>
+        <translation>Brisel Tavik Message</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Try Again</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+</context>
+<context>
+    <name>OptionDialog</name>
+    <message>
+        <source>BRISEL Tavik: Options</source>
+        <translation>BRISEL Tavik: Options</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Proxy settings</source>
+        <translation>Proxy settings</translation>
+    </message>
+    <message>
+        <source>Host:</source>
+        <translation>Host:</translation>
+    </message>
+    <message>
+        <source>Port:</source>
+        <translation>Port:</translation>
+    </message>
+    <message>
+        <source>Authentication</source>
+        <translation>Authentication</translation>
+    </message>
+    <message>
+        <source>Login:</source>
+        <translation>Login:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Password:</translation>
+    </message>
+    <message>
+        <source>Show tray icon on the taskbar</source>
+        <translation>Show tray icon on the taskbar</translation>
+    </message>
+    <message>
+        <source>Automatically download and install program updates</source>
+        <translation>Automatically download and install program updates</translation>
+    </message>
+    <message>
+        <source>Deactivate ZENT Agent...</source>
+        <translation>Deactivate ZENT Agent...</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Options</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressDialog</name>
+    <message>
+        <source>Brisel Tavik Message</source>
+        <translation>Brisel Tavik Message</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Message</translation>
+    </message>
+    <message>
+        <source>0%</source>
+        <translation>0%</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progress</translation>
+    </message>
+</context>
+<context>
+    <name>RebootDialog</name>
+    <message>
+        <source>Tavik Reboot</source>
+        <translation>Tavik Reboot</translation>
+    </message>
+    <message>
+        <source>Reboot now</source>
+        <translation>Reboot now</translation>
+    </message>
+    <message>
+        <source>Postpone</source>
+        <translation>Postpone</translation>
+    </message>
+    <message>
+        <source>10 minutes</source>
+        <translation>10 minutes</translation>
+    </message>
+    <message>
+        <source>30 minutes</source>
+        <translation>30 minutes</translation>
+    </message>
+    <message>
+        <source>1 hour</source>
+        <translation>1 hour</translation>
+    </message>
+    <message>
+        <source>4 hours</source>
+        <translation>4 hours</translation>
+    </message>
+    <message>
+        <source>Remind me in</source>
+        <translation>Remind me in</translation>
+    </message>
+    <message>
+        <source>Shutdown now</source>
+        <translation>Shutdown now</translation>
+    </message>
+    <message>
+        <source>Reason for the restart</source>
+        <translation>Reason for the restart</translation>
+    </message>
+</context>
+<context>
+    <name>RemoteConnectionDialog</name>
+    <message>
+        <source>Remote Control by Corvane</source>
+        <translation>Remote Control by Corvane</translation>
+    </message>
+    <message>
+        <source>Remote Tool Session</source>
+        <translation>Remote Tool Session</translation>
+    </message>
+    <message>
+        <source>File Transfer Session</source>
+        <translation>File Transfer Session</translation>
+    </message>
+    <message>
+        <source>00:00:00</source>
+        <translation>00:00:00</translation>
+    </message>
+    <message>
+        <source>End session</source>
+        <translation>End session</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Remote Control Session</source>
+        <translation>Remote Control Session</translation>
+    </message>
+    <message>
+        <source>Username</source>
+        <translation>Username</translation>
+    </message>
+    <message>
+        <source>File uploaded</source>
+        <translation>File uploaded</translation>
+    </message>
+    <message>
+        <source>Upload aborted</source>
+        <translation>Upload aborted</translation>
+    </message>
+    <message>
+        <source>Upload cancelled</source>
+        <translation>Upload cancelled</translation>
+    </message>
+    <message>
+        <source>File downloaded</source>
+        <translation>File downloaded</translation>
+    </message>
+    <message>
+        <source>Download aborted</source>
+        <translation>Download aborted</translation>
+    </message>
+    <message>
+        <source>Download cancelled</source>
+        <translation>Download cancelled</translation>
+    </message>
+    <message>
+        <source>Folder uploaded</source>
+        <translation>Folder uploaded</translation>
+    </message>
+    <message>
+        <source>Folder downloaded</source>
+        <translation>Folder downloaded</translation>
+    </message>
+    <message>
+        <source>File deleted</source>
+        <translation>File deleted</translation>
+    </message>
+    <message>
+        <source>File renamed</source>
+        <translation>File renamed</translation>
+    </message>
+    <message>
+        <source>Folder deleted</source>
+        <translation>Folder deleted</translation>
+    </message>
+    <message>
+        <source>Folder renamed</source>
+        <translation>Folder renamed</translation>
+    </message>
+    <message>
+        <source>Folder created</source>
+        <translation>Folder created</translation>
+    </message>
+    <message>
+        <source>Process ended</source>
+        <translation>Process ended</translation>
+    </message>
+    <message>
+        <source>Service started</source>
+        <translation>Service started</translation>
+    </message>
+    <message>
+        <source>Service stopped</source>
+        <translation>Service stopped</translation>
+    </message>
+    <message>
+        <source>Service restarted</source>
+        <translation>Service restarted</translation>
+    </message>
+    <message>
+        <source>Service paused</source>
+        <translation>Service paused</translation>
+    </message>
+    <message>
+        <source>Service resumed</source>
+        <translation>Service resumed</translation>
+    </message>
+    <message>
+        <source>Session suspended</source>
+        <translation>Session suspended</translation>
+    </message>
+    <message>
+        <source>Session resumed</source>
+        <translation>Session resumed</translation>
+    </message>
+    <message>
+        <source>Hide window</source>
+        <translation>Hide window</translation>
+    </message>
+    <message>
+        <source>Show or hide the activity log</source>
+        <translation>Show or hide the activity log</translation>
+    </message>
+    <message>
+        <source>Activity log</source>
+        <translation>Activity log</translation>
+    </message>
+</context>
+<context>
+    <name>ServiceDeskTicketDialog</name>
+    <message>
+        <source>Brisel Tavik: Submit Ticket</source>
+        <translation>Brisel Tavik: Submit Ticket</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Please fill in the fields below and describe details of your issue:</source>
+        <translation>Please fill in the fields below and describe details of your issue:</translation>
+    </message>
+    <message>
+        <source>Issue Summary</source>
+        <translation>Issue Summary</translation>
+    </message>
+    <message>
+        <source>Department</source>
+        <translation>Department</translation>
+    </message>
+    <message>
+        <source>Priority Level</source>
+        <translation>Priority Level</translation>
+    </message>
+    <message>
+        <source>Issue Details</source>
+        <translation>Issue Details</translation>
+    </message>
+    <message>
+        <source>Include device data (brand, model, serial number, logged on user, domain/workgroup)</source>
+        <translation>Include device data (brand, model, serial number, logged on user, domain/workgroup)</translation>
+    </message>
+    <message>
+        <source>Note: Company, Device Name and Owner are included by default.</source>
+        <translation>Note: Company, Device Name and Owner are included by default.</translation>
+    </message>
+    <message>
+        <source>Submit</source>
+        <translation>Submit</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Required</source>
+        <translation>Required</translation>
+    </message>
+    <message>
+        <source>Required (max. %1 chars)</source>
+        <translation>Required (max. %1 chars)</translation>
+    </message>
+    <message>
+        <source>Submit ticket</source>
+        <translation>Submit ticket</translation>
+    </message>
+    <message>
+        <source>Ticket not submitted</source>
+        <translation>Ticket not submitted</translation>
+    </message>
+    <message>
+        <source>Do you want to discard all changes?</source>
+        <translation>Do you want to discard all changes?</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>Ok</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+</context>
+<context>
+    <name>ZentPasswordDialog</name>
+    <message>
+        <source>Brisel Tavik Login</source>
+        <translation>Brisel Tavik Login</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continue</translation>
+    </message>
+    <message>
+        <source>Authorization Required</source>
+        <translation>Authorization Required</translation>
+    </message>
+    <message>
+        <source>You need to enter Zent Custom Password
+in order to continue</source>
+        <translation>You need to enter Zent Custom Password
+in order to continue</translation>
+    </message>
+    <message>
+        <source>Please enter Zent Custom Password</source>
+        <translation>Please enter Zent Custom Password</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Password:</translation>
+    </message>
+    <message>
+        <source>Enter password</source>
+        <translation>Enter password</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Password</translation>
+    </message>
+</context>
+</TS>

@@ -1,3 +1,690 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="es"/>
+<TS version="2.1" language="es_ES">
+<context>
+    <name>AboutDialog</name>
+    <message>
+        <source>Brisel Tavik About</source>
+        <translation>Acerca de Brisel Tavik</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Update now</source>
+        <translation>Actualizar ahora</translation>
+    </message>
+    <message>
+        <source>Version:</source>
+        <translation>Versión:</translation>
+    </message>
+    <message>
+        <source>Support phone: </source>
+        <translation>Teléfono de soporte: </translation>
+    </message>
+    <message>
+        <source>Support email: </source>
+        <translation>Correo de soporte: </translation>
+    </message>
+    <message>
+        <source>All rights reserved</source>
+        <translation>Todos los derechos reservados</translation>
+    </message>
+    <message>
+        <source>Server:</source>
+        <translation>Servidor:</translation>
+    </message>
+    <message>
+        <source>n/a</source>
+        <translation>no disponible</translation>
+    </message>
+    <message>
+        <source>Last communication session: </source>
+        <translation>Última comunicación: </translation>
+    </message>
+    <message>
+        <source>Support web-site: </source>
+        <translation>Sitio web de soporte: </translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Acerca de</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>AcceptMessageDialog</name>
+    <message>
+        <source>Brisel Tavik Message</source>
+        <translation>Brisel Tavik – Mensaje</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Success</source>
+        <translation>Operación correcta</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>ActivationDialog</name>
+    <message>
+        <source>Brisel Tavik Activation</source>
+        <translation>Brisel Tavik – Activación</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>You need to enroll Tavik by providing host, port and token from Device Enrollment email and pressing &quot;Enroll&quot; button.</source>
+        <translation>Para inscribir Tavik, introduzca el host, el puerto y el token del correo de inscripción del dispositivo y haga clic en el botón “Inscribir”.</translation>
+    </message>
+    <message>
+        <source>Tavik needs to be enrolled
+in order to manage this device</source>
+        <translation>Es necesario inscribir Tavik
+para administrar este dispositivo</translation>
+    </message>
+    <message>
+        <source>Enrollment Required</source>
+        <translation>Se requiere inscripción</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Enroll</source>
+        <translation>Inscribir</translation>
+    </message>
+    <message>
+        <source>Host:</source>
+        <translation>Host:</translation>
+    </message>
+    <message>
+        <source>Token:</source>
+        <translation>Token:</translation>
+    </message>
+    <message>
+        <source>Port:</source>
+        <translation>Puerto:</translation>
+    </message>
+    <message>
+        <source>Please set up host, port and token from Device Enrollment email.</source>
+        <translation>Introduzca el host, el puerto y el token del correo de inscripción del dispositivo.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>ApproveRemoteConnectionDialog</name>
+    <message>
+        <source>Remote control</source>
+        <translation>Control remoto</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>Permitir</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Remote tools</source>
+        <translation>Herramientas remotas</translation>
+    </message>
+    <message>
+        <source>Remote access</source>
+        <translation>Acceso remoto</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Mensaje</translation>
+    </message>
+    <message>
+        <source>Time left to answer in seconds: %1</source>
+        <translation>Tiempo restante para responder en segundos: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n second(s) left to answer</source>
+        <translation>
+            <numerusform>Queda %n segundo para responder</numerusform>
+            <numerusform>Quedan %n segundos para responder</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>AuthorizationDialog</name>
+    <message>
+        <source>Brisel Tavik Login</source>
+        <translation>Brisel Tavik – Iniciar sesión</translation>
+    </message>
+    <message>
+        <source>Forgot username or password?</source>
+        <translation>¿Olvidó el usuario o la clave?</translation>
+    </message>
+    <message>
+        <source>Login</source>
+        <translation>Iniciar sesión</translation>
+    </message>
+    <message>
+        <source>Authorization Required</source>
+        <translation>Se requiere autorización</translation>
+    </message>
+    <message>
+        <source>You need to login with your Brisel Tavik online account in order to continue</source>
+        <translation>Para continuar, inicie sesión con su cuenta en línea de Brisel Tavik</translation>
+    </message>
+    <message>
+        <source>Please login with your Brisel Tavik</source>
+        <translation>Inicie sesión con su cuenta de Brisel Tavik</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Clave:</translation>
+    </message>
+    <message>
+        <source>Username:</source>
+        <translation>Usuario:</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Clave</translation>
+    </message>
+</context>
+<context>
+    <name>EnterPasswordDialog</name>
+    <message>
+        <source>Dialog</source>
+        <translation>Diálogo</translation>
+    </message>
+    <message>
+        <source>Authorization Required</source>
+        <translation>Se requiere autorización</translation>
+    </message>
+    <message>
+        <source>Please enter your credentials in order to continue</source>
+        <translation>Introduzca sus credenciales para continuar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Computer Administrator (A Windows account with administrative privileges)</source>
+        <translation>Administrador del equipo (una cuenta de Windows con privilegios de administrador)</translation>
+    </message>
+    <message>
+        <source>Ostrel Custom Password</source>
+        <translation>Clave personalizada de Ostrel</translation>
+    </message>
+    <message>
+        <source>Domain:</source>
+        <translation>Dominio:</translation>
+    </message>
+    <message>
+        <source>Login:</source>
+        <translation>Usuario:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Clave:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Enter password</source>
+        <translation>Introducir clave</translation>
+    </message>
+</context>
+<context>
+    <name>ErrorMessageDialog</name>
+    <message>
+        <source>Brisel Tavik Message</source>
+        <translation>Brisel Tavik – Mensaje</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Reintentar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>OptionDialog</name>
+    <message>
+        <source>BRISEL Tavik: Options</source>
+        <translation>BRISEL Tavik: Opciones</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Proxy settings</source>
+        <translation>Configuración del proxy</translation>
+    </message>
+    <message>
+        <source>Host:</source>
+        <translation>Host:</translation>
+    </message>
+    <message>
+        <source>Port:</source>
+        <translation>Puerto:</translation>
+    </message>
+    <message>
+        <source>Authentication</source>
+        <translation>Autenticación</translation>
+    </message>
+    <message>
+        <source>Login:</source>
+        <translation>Usuario:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Clave:</translation>
+    </message>
+    <message>
+        <source>Show tray icon on the taskbar</source>
+        <translation>Mostrar el icono en el área de notificación de la barra de tareas</translation>
+    </message>
+    <message>
+        <source>Automatically download and install program updates</source>
+        <translation>Descargar e instalar automáticamente las actualizaciones del programa</translation>
+    </message>
+    <message>
+        <source>Deactivate ZENT Agent...</source>
+        <translation>Desactivar ZENT Agent...</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Opciones</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressDialog</name>
+    <message>
+        <source>Brisel Tavik Message</source>
+        <translation>Brisel Tavik – Mensaje</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Mensaje</translation>
+    </message>
+    <message>
+        <source>0%</source>
+        <translation>0%</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progreso</translation>
+    </message>
+</context>
+<context>
+    <name>RebootDialog</name>
+    <message>
+        <source>Tavik Reboot</source>
+        <translation>Tavik – Reinicio</translation>
+    </message>
+    <message>
+        <source>Reboot now</source>
+        <translation>Reiniciar ahora</translation>
+    </message>
+    <message>
+        <source>Postpone</source>
+        <translation>Posponer</translation>
+    </message>
+    <message>
+        <source>10 minutes</source>
+        <translation>10 minutos</translation>
+    </message>
+    <message>
+        <source>30 minutes</source>
+        <translation>30 minutos</translation>
+    </message>
+    <message>
+        <source>1 hour</source>
+        <translation>1 hora</translation>
+    </message>
+    <message>
+        <source>4 hours</source>
+        <translation>4 horas</translation>
+    </message>
+    <message>
+        <source>Remind me in</source>
+        <translation>Recordármelo dentro de</translation>
+    </message>
+    <message>
+        <source>Shutdown now</source>
+        <translation>Apagar ahora</translation>
+    </message>
+    <message>
+        <source>Reason for the restart</source>
+        <translation>Motivo del reinicio</translation>
+    </message>
+</context>
+<context>
+    <name>RemoteConnectionDialog</name>
+    <message>
+        <source>Remote Control by Corvane</source>
+        <translation>Control remoto de Corvane</translation>
+    </message>
+    <message>
+        <source>Remote Tool Session</source>
+        <translation>Herramientas remotas</translation>
+    </message>
+    <message>
+        <source>File Transfer Session</source>
+        <translation>Transferencia de archivos</translation>
+    </message>
+    <message>
+        <source>00:00:00</source>
+        <translation>00:00:00</translation>
+    </message>
+    <message>
+        <source>End session</source>
+        <translation>Finalizar sesión</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Remote Control Session</source>
+        <translation>Control remoto</translation>
+    </message>
+    <message>
+        <source>Username</source>
+        <translation>Usuario</translation>
+    </message>
+    <message>
+        <source>File uploaded</source>
+        <translation>Archivo cargado</translation>
+    </message>
+    <message>
+        <source>Upload aborted</source>
+        <translation>Carga interrumpida</translation>
+    </message>
+    <message>
+        <source>Upload cancelled</source>
+        <translation>Carga cancelada</translation>
+    </message>
+    <message>
+        <source>File downloaded</source>
+        <translation>Archivo descargado</translation>
+    </message>
+    <message>
+        <source>Download aborted</source>
+        <translation>Descarga interrumpida</translation>
+    </message>
+    <message>
+        <source>Download cancelled</source>
+        <translation>Descarga cancelada</translation>
+    </message>
+    <message>
+        <source>Folder uploaded</source>
+        <translation>Carpeta cargada</translation>
+    </message>
+    <message>
+        <source>Folder downloaded</source>
+        <translation>Carpeta descargada</translation>
+    </message>
+    <message>
+        <source>File deleted</source>
+        <translation>Archivo eliminado</translation>
+    </message>
+    <message>
+        <source>File renamed</source>
+        <translation>Archivo renombrado</translation>
+    </message>
+    <message>
+        <source>Folder deleted</source>
+        <translation>Carpeta eliminada</translation>
+    </message>
+    <message>
+        <source>Folder renamed</source>
+        <translation>Carpeta renombrada</translation>
+    </message>
+    <message>
+        <source>Folder created</source>
+        <translation>Carpeta creada</translation>
+    </message>
+    <message>
+        <source>Process ended</source>
+        <translation>Proceso finalizado</translation>
+    </message>
+    <message>
+        <source>Service started</source>
+        <translation>Servicio iniciado</translation>
+    </message>
+    <message>
+        <source>Service stopped</source>
+        <translation>Servicio detenido</translation>
+    </message>
+    <message>
+        <source>Service restarted</source>
+        <translation>Servicio reiniciado</translation>
+    </message>
+    <message>
+        <source>Service paused</source>
+        <translation>Servicio en pausa</translation>
+    </message>
+    <message>
+        <source>Service resumed</source>
+        <translation>Servicio reanudado</translation>
+    </message>
+    <message>
+        <source>Session suspended</source>
+        <translation>Sesión suspendida</translation>
+    </message>
+    <message>
+        <source>Session resumed</source>
+        <translation>Sesión reanudada</translation>
+    </message>
+    <message>
+        <source>Hide window</source>
+        <translation>Ocultar ventana</translation>
+    </message>
+    <message>
+        <source>Show or hide the activity log</source>
+        <translation>Mostrar u ocultar el registro de actividad</translation>
+    </message>
+    <message>
+        <source>Activity log</source>
+        <translation>Registro de actividad</translation>
+    </message>
+</context>
+<context>
+    <name>ServiceDeskTicketDialog</name>
+    <message>
+        <source>Brisel Tavik: Submit Ticket</source>
+        <translation>Brisel Tavik: Enviar ticket</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Please fill in the fields below and describe details of your issue:</source>
+        <translation>Rellene los campos siguientes y describa su problema con detalle:</translation>
+    </message>
+    <message>
+        <source>Issue Summary</source>
+        <translation>Resumen del problema</translation>
+    </message>
+    <message>
+        <source>Department</source>
+        <translation>Departamento</translation>
+    </message>
+    <message>
+        <source>Priority Level</source>
+        <translation>Nivel de prioridad</translation>
+    </message>
+    <message>
+        <source>Issue Details</source>
+        <translation>Detalles del problema</translation>
+    </message>
+    <message>
+        <source>Include device data (brand, model, serial number, logged on user, domain/workgroup)</source>
+        <translation>Incluir datos del dispositivo (marca, modelo, número de serie, usuario conectado, dominio o grupo de trabajo)</translation>
+    </message>
+    <message>
+        <source>Note: Company, Device Name and Owner are included by default.</source>
+        <translation>Nota: la empresa, el nombre del dispositivo y el propietario se incluyen de forma predeterminada.</translation>
+    </message>
+    <message>
+        <source>Submit</source>
+        <translation>Enviar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Required</source>
+        <translation>Obligatorio</translation>
+    </message>
+    <message>
+        <source>Required (max. %1 chars)</source>
+        <translation>Obligatorio (máx. %1 caracteres)</translation>
+    </message>
+    <message>
+        <source>Submit ticket</source>
+        <translation>Enviar ticket</translation>
+    </message>
+    <message>
+        <source>Ticket not submitted</source>
+        <translation>Ticket no enviado</translation>
+    </message>
+    <message>
+        <source>Do you want to discard all changes?</source>
+        <translation>¿Desea descartar todos los cambios?</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>ZentPasswordDialog</name>
+    <message>
+        <source>Brisel Tavik Login</source>
+        <translation>Brisel Tavik – Iniciar sesión</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continuar</translation>
+    </message>
+    <message>
+        <source>Authorization Required</source>
+        <translation>Se requiere autorización</translation>
+    </message>
+    <message>
+        <source>You need to enter Zent Custom Password
+in order to continue</source>
+        <translation>Debe introducir la clave personalizada de Zent
+para continuar</translation>
+    </message>
+    <message>
+        <source>Please enter Zent Custom Password</source>
+        <translation>Introduzca la clave personalizada de Zent</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Clave:</translation>
+    </message>
+    <message>
+        <source>Enter password</source>
+        <translation>Introducir clave</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Clave</translation>
+    </message>
+</context>
+</TS>

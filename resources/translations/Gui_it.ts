@@ -1,3 +1,690 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="it"/>
+<TS version="2.1" language="it_IT">
+<context>
+    <name>AboutDialog</name>
+    <message>
+        <source>Brisel Tavik About</source>
+        <translation>Informazioni su Brisel Tavik</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Update now</source>
+        <translation>Aggiorna ora</translation>
+    </message>
+    <message>
+        <source>Version:</source>
+        <translation>Versione:</translation>
+    </message>
+    <message>
+        <source>Support phone: </source>
+        <translation>Telefono supporto: </translation>
+    </message>
+    <message>
+        <source>Support email: </source>
+        <translation>E-mail supporto: </translation>
+    </message>
+    <message>
+        <source>All rights reserved</source>
+        <translation>Tutti i diritti riservati</translation>
+    </message>
+    <message>
+        <source>Server:</source>
+        <translation>Server:</translation>
+    </message>
+    <message>
+        <source>n/a</source>
+        <translation>non disponibile</translation>
+    </message>
+    <message>
+        <source>Last communication session: </source>
+        <translation>Ultima comunicazione: </translation>
+    </message>
+    <message>
+        <source>Support web-site: </source>
+        <translation>Sito Web supporto: </translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Informazioni</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+</context>
+<context>
+    <name>AcceptMessageDialog</name>
+    <message>
+        <source>Brisel Tavik Message</source>
+        <translation>Brisel Tavik – Messaggio</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Success</source>
+        <translation>Operazione riuscita</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+</context>
+<context>
+    <name>ActivationDialog</name>
+    <message>
+        <source>Brisel Tavik Activation</source>
+        <translation>Brisel Tavik – Attivazione</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>You need to enroll Tavik by providing host, port and token from Device Enrollment email and pressing &quot;Enroll&quot; button.</source>
+        <translation>È necessario registrare Tavik immettendo host, porta e token indicati nell’e-mail di registrazione del dispositivo e facendo clic su “Registra”.</translation>
+    </message>
+    <message>
+        <source>Tavik needs to be enrolled
+in order to manage this device</source>
+        <translation>È necessario registrare Tavik
+per gestire questo dispositivo</translation>
+    </message>
+    <message>
+        <source>Enrollment Required</source>
+        <translation>Registrazione necessaria</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Enroll</source>
+        <translation>Registra</translation>
+    </message>
+    <message>
+        <source>Host:</source>
+        <translation>Host:</translation>
+    </message>
+    <message>
+        <source>Token:</source>
+        <translation>Token:</translation>
+    </message>
+    <message>
+        <source>Port:</source>
+        <translation>Porta:</translation>
+    </message>
+    <message>
+        <source>Please set up host, port and token from Device Enrollment email.</source>
+        <translation>Immettere host, porta e token indicati nell’e-mail di registrazione del dispositivo.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+</context>
+<context>
+    <name>ApproveRemoteConnectionDialog</name>
+    <message>
+        <source>Remote control</source>
+        <translation>Controllo remoto</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>Consenti</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Remote tools</source>
+        <translation>Strumenti remoti</translation>
+    </message>
+    <message>
+        <source>Remote access</source>
+        <translation>Accesso remoto</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Messaggio</translation>
+    </message>
+    <message>
+        <source>Time left to answer in seconds: %1</source>
+        <translation>Tempo rimanente per rispondere in secondi: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n second(s) left to answer</source>
+        <translation>
+            <numerusform>%n secondo rimanente per rispondere</numerusform>
+            <numerusform>%n secondi rimanenti per rispondere</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>AuthorizationDialog</name>
+    <message>
+        <source>Brisel Tavik Login</source>
+        <translation>Brisel Tavik – Accesso</translation>
+    </message>
+    <message>
+        <source>Forgot username or password?</source>
+        <translation>Credenziali dimenticate?</translation>
+    </message>
+    <message>
+        <source>Login</source>
+        <translation>Accedi</translation>
+    </message>
+    <message>
+        <source>Authorization Required</source>
+        <translation>Autorizzazione necessaria</translation>
+    </message>
+    <message>
+        <source>You need to login with your Brisel Tavik online account in order to continue</source>
+        <translation>Per continuare è necessario accedere con l’account online Brisel Tavik</translation>
+    </message>
+    <message>
+        <source>Please login with your Brisel Tavik</source>
+        <translation>Accedere con l’account Brisel Tavik</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Password:</translation>
+    </message>
+    <message>
+        <source>Username:</source>
+        <translation>Utente:</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Password</translation>
+    </message>
+</context>
+<context>
+    <name>EnterPasswordDialog</name>
+    <message>
+        <source>Dialog</source>
+        <translation>Finestra di dialogo</translation>
+    </message>
+    <message>
+        <source>Authorization Required</source>
+        <translation>Autorizzazione necessaria</translation>
+    </message>
+    <message>
+        <source>Please enter your credentials in order to continue</source>
+        <translation>Immettere le proprie credenziali per continuare</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Computer Administrator (A Windows account with administrative privileges)</source>
+        <translation>Amministratore del computer (account di Windows con privilegi amministrativi)</translation>
+    </message>
+    <message>
+        <source>Ostrel Custom Password</source>
+        <translation>Password personalizzata Ostrel</translation>
+    </message>
+    <message>
+        <source>Domain:</source>
+        <translation>Dominio:</translation>
+    </message>
+    <message>
+        <source>Login:</source>
+        <translation>Utente:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Password:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Enter password</source>
+        <translation>Immetti password</translation>
+    </message>
+</context>
+<context>
+    <name>ErrorMessageDialog</name>
+    <message>
+        <source>Brisel Tavik Message</source>
+        <translation>Brisel Tavik – Messaggio</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Errore</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Riprova</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+</context>
+<context>
+    <name>OptionDialog</name>
+    <message>
+        <source>BRISEL Tavik: Options</source>
+        <translation>BRISEL Tavik: Opzioni</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Proxy settings</source>
+        <translation>Impostazioni proxy</translation>
+    </message>
+    <message>
+        <source>Host:</source>
+        <translation>Host:</translation>
+    </message>
+    <message>
+        <source>Port:</source>
+        <translation>Porta:</translation>
+    </message>
+    <message>
+        <source>Authentication</source>
+        <translation>Autenticazione</translation>
+    </message>
+    <message>
+        <source>Login:</source>
+        <translation>Utente:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Password:</translation>
+    </message>
+    <message>
+        <source>Show tray icon on the taskbar</source>
+        <translation>Mostra l’icona nell’area di notifica della barra delle applicazioni</translation>
+    </message>
+    <message>
+        <source>Automatically download and install program updates</source>
+        <translation>Scarica e installa automaticamente gli aggiornamenti del programma</translation>
+    </message>
+    <message>
+        <source>Deactivate ZENT Agent...</source>
+        <translation>Disattiva ZENT Agent...</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Opzioni</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressDialog</name>
+    <message>
+        <source>Brisel Tavik Message</source>
+        <translation>Brisel Tavik – Messaggio</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Messaggio</translation>
+    </message>
+    <message>
+        <source>0%</source>
+        <translation>0%</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Avanzamento</translation>
+    </message>
+</context>
+<context>
+    <name>RebootDialog</name>
+    <message>
+        <source>Tavik Reboot</source>
+        <translation>Tavik – Riavvio</translation>
+    </message>
+    <message>
+        <source>Reboot now</source>
+        <translation>Riavvia ora</translation>
+    </message>
+    <message>
+        <source>Postpone</source>
+        <translation>Posticipa</translation>
+    </message>
+    <message>
+        <source>10 minutes</source>
+        <translation>10 minuti</translation>
+    </message>
+    <message>
+        <source>30 minutes</source>
+        <translation>30 minuti</translation>
+    </message>
+    <message>
+        <source>1 hour</source>
+        <translation>1 ora</translation>
+    </message>
+    <message>
+        <source>4 hours</source>
+        <translation>4 ore</translation>
+    </message>
+    <message>
+        <source>Remind me in</source>
+        <translation>Ricordamelo tra</translation>
+    </message>
+    <message>
+        <source>Shutdown now</source>
+        <translation>Spegni ora</translation>
+    </message>
+    <message>
+        <source>Reason for the restart</source>
+        <translation>Motivo del riavvio</translation>
+    </message>
+</context>
+<context>
+    <name>RemoteConnectionDialog</name>
+    <message>
+        <source>Remote Control by Corvane</source>
+        <translation>Controllo remoto di Corvane</translation>
+    </message>
+    <message>
+        <source>Remote Tool Session</source>
+        <translation>Strumenti remoti</translation>
+    </message>
+    <message>
+        <source>File Transfer Session</source>
+        <translation>Trasferimento file</translation>
+    </message>
+    <message>
+        <source>00:00:00</source>
+        <translation>00:00:00</translation>
+    </message>
+    <message>
+        <source>End session</source>
+        <translation>Termina sessione</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>Remote Control Session</source>
+        <translation>Controllo remoto</translation>
+    </message>
+    <message>
+        <source>Username</source>
+        <translation>Nome utente</translation>
+    </message>
+    <message>
+        <source>File uploaded</source>
+        <translation>File caricato</translation>
+    </message>
+    <message>
+        <source>Upload aborted</source>
+        <translation>Caricamento interrotto</translation>
+    </message>
+    <message>
+        <source>Upload cancelled</source>
+        <translation>Caricamento annullato</translation>
+    </message>
+    <message>
+        <source>File downloaded</source>
+        <translation>File scaricato</translation>
+    </message>
+    <message>
+        <source>Download aborted</source>
+        <translation>Download interrotto</translation>
+    </message>
+    <message>
+        <source>Download cancelled</source>
+        <translation>Download annullato</translation>
+    </message>
+    <message>
+        <source>Folder uploaded</source>
+        <translation>Cartella caricata</translation>
+    </message>
+    <message>
+        <source>Folder downloaded</source>
+        <translation>Cartella scaricata</translation>
+    </message>
+    <message>
+        <source>File deleted</source>
+        <translation>File eliminato</translation>
+    </message>
+    <message>
+        <source>File renamed</source>
+        <translation>File rinominato</translation>
+    </message>
+    <message>
+        <source>Folder deleted</source>
+        <translation>Cartella eliminata</translation>
+    </message>
+    <message>
+        <source>Folder renamed</source>
+        <translation>Cartella rinominata</translation>
+    </message>
+    <message>
+        <source>Folder created</source>
+        <translation>Cartella creata</translation>
+    </message>
+    <message>
+        <source>Process ended</source>
+        <translation>Processo terminato</translation>
+    </message>
+    <message>
+        <source>Service started</source>
+        <translation>Servizio avviato</translation>
+    </message>
+    <message>
+        <source>Service stopped</source>
+        <translation>Servizio arrestato</translation>
+    </message>
+    <message>
+        <source>Service restarted</source>
+        <translation>Servizio riavviato</translation>
+    </message>
+    <message>
+        <source>Service paused</source>
+        <translation>Servizio sospeso</translation>
+    </message>
+    <message>
+        <source>Service resumed</source>
+        <translation>Servizio ripreso</translation>
+    </message>
+    <message>
+        <source>Session suspended</source>
+        <translation>Sessione sospesa</translation>
+    </message>
+    <message>
+        <source>Session resumed</source>
+        <translation>Sessione ripresa</translation>
+    </message>
+    <message>
+        <source>Hide window</source>
+        <translation>Nascondi finestra</translation>
+    </message>
+    <message>
+        <source>Show or hide the activity log</source>
+        <translation>Mostra o nascondi il registro attività</translation>
+    </message>
+    <message>
+        <source>Activity log</source>
+        <translation>Registro attività</translation>
+    </message>
+</context>
+<context>
+    <name>ServiceDeskTicketDialog</name>
+    <message>
+        <source>Brisel Tavik: Submit Ticket</source>
+        <translation>Brisel Tavik: Invia ticket</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Please fill in the fields below and describe details of your issue:</source>
+        <translation>Compilare i campi seguenti e descrivere il problema in dettaglio:</translation>
+    </message>
+    <message>
+        <source>Issue Summary</source>
+        <translation>Riepilogo problema</translation>
+    </message>
+    <message>
+        <source>Department</source>
+        <translation>Reparto</translation>
+    </message>
+    <message>
+        <source>Priority Level</source>
+        <translation>Livello di priorità</translation>
+    </message>
+    <message>
+        <source>Issue Details</source>
+        <translation>Dettagli problema</translation>
+    </message>
+    <message>
+        <source>Include device data (brand, model, serial number, logged on user, domain/workgroup)</source>
+        <translation>Includi dati del dispositivo (marca, modello, numero di serie, utente connesso, dominio/gruppo di lavoro)</translation>
+    </message>
+    <message>
+        <source>Note: Company, Device Name and Owner are included by default.</source>
+        <translation>Nota: azienda, nome del dispositivo e proprietario sono inclusi per impostazione predefinita.</translation>
+    </message>
+    <message>
+        <source>Submit</source>
+        <translation>Invia</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Required</source>
+        <translation>Obbligatorio</translation>
+    </message>
+    <message>
+        <source>Required (max. %1 chars)</source>
+        <translation>Obbligatorio (max. %1 caratteri)</translation>
+    </message>
+    <message>
+        <source>Submit ticket</source>
+        <translation>Invia ticket</translation>
+    </message>
+    <message>
+        <source>Ticket not submitted</source>
+        <translation>Ticket non inviato</translation>
+    </message>
+    <message>
+        <source>Do you want to discard all changes?</source>
+        <translation>Eliminare tutte le modifiche?</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+</context>
+<context>
+    <name>ZentPasswordDialog</name>
+    <message>
+        <source>Brisel Tavik Login</source>
+        <translation>Brisel Tavik – Accesso</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continua</translation>
+    </message>
+    <message>
+        <source>Authorization Required</source>
+        <translation>Autorizzazione necessaria</translation>
+    </message>
+    <message>
+        <source>You need to enter Zent Custom Password
+in order to continue</source>
+        <translation>È necessario immettere la password personalizzata Zent
+per continuare</translation>
+    </message>
+    <message>
+        <source>Please enter Zent Custom Password</source>
+        <translation>Immettere la password personalizzata Zent</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Password:</translation>
+    </message>
+    <message>
+        <source>Enter password</source>
+        <translation>Immetti password</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Password</translation>
+    </message>
+</context>
+</TS>

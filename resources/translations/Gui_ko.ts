@@ -1,3 +1,689 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="ko"/>
+<TS version="2.1" language="ko_KR">
+<context>
+    <name>AboutDialog</name>
+    <message>
+        <source>Brisel Tavik About</source>
+        <translation>Brisel Tavik 정보</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>Update now</source>
+        <translation>지금 업데이트</translation>
+    </message>
+    <message>
+        <source>Version:</source>
+        <translation>버전:</translation>
+    </message>
+    <message>
+        <source>Support phone: </source>
+        <translation>지원 전화: </translation>
+    </message>
+    <message>
+        <source>Support email: </source>
+        <translation>지원 이메일: </translation>
+    </message>
+    <message>
+        <source>All rights reserved</source>
+        <translation>모든 권리 보유</translation>
+    </message>
+    <message>
+        <source>Server:</source>
+        <translation>서버:</translation>
+    </message>
+    <message>
+        <source>n/a</source>
+        <translation>정보 없음</translation>
+    </message>
+    <message>
+        <source>Last communication session: </source>
+        <translation>마지막 통신: </translation>
+    </message>
+    <message>
+        <source>Support web-site: </source>
+        <translation>지원 웹 사이트: </translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>정보</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
+</context>
+<context>
+    <name>AcceptMessageDialog</name>
+    <message>
+        <source>Brisel Tavik Message</source>
+        <translation>Brisel Tavik 메시지</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Success</source>
+        <translation>성공</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
+</context>
+<context>
+    <name>ActivationDialog</name>
+    <message>
+        <source>Brisel Tavik Activation</source>
+        <translation>Brisel Tavik 활성화</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>You need to enroll Tavik by providing host, port and token from Device Enrollment email and pressing &quot;Enroll&quot; button.</source>
+        <translation>장치 등록 이메일에 있는 호스트, 포트, 토큰을 입력하고 [등록] 단추를 눌러 Tavik을 등록해야 합니다.</translation>
+    </message>
+    <message>
+        <source>Tavik needs to be enrolled
+in order to manage this device</source>
+        <translation>이 장치를 관리하려면
+Tavik을 등록해야 합니다</translation>
+    </message>
+    <message>
+        <source>Enrollment Required</source>
+        <translation>등록이 필요합니다</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Enroll</source>
+        <translation>등록</translation>
+    </message>
+    <message>
+        <source>Host:</source>
+        <translation>호스트:</translation>
+    </message>
+    <message>
+        <source>Token:</source>
+        <translation>토큰:</translation>
+    </message>
+    <message>
+        <source>Port:</source>
+        <translation>포트:</translation>
+    </message>
+    <message>
+        <source>Please set up host, port and token from Device Enrollment email.</source>
+        <translation>장치 등록 이메일의 호스트, 포트, 토큰을 입력하십시오.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
+</context>
+<context>
+    <name>ApproveRemoteConnectionDialog</name>
+    <message>
+        <source>Remote control</source>
+        <translation>원격 제어</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>허용</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Remote tools</source>
+        <translation>원격 도구</translation>
+    </message>
+    <message>
+        <source>Remote access</source>
+        <translation>원격 액세스</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>메시지</translation>
+    </message>
+    <message>
+        <source>Time left to answer in seconds: %1</source>
+        <translation>응답까지 남은 시간(초): %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n second(s) left to answer</source>
+        <translation>
+            <numerusform>응답까지 %n초 남았습니다</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>AuthorizationDialog</name>
+    <message>
+        <source>Brisel Tavik Login</source>
+        <translation>Brisel Tavik 로그인</translation>
+    </message>
+    <message>
+        <source>Forgot username or password?</source>
+        <translation>로그인 정보를 잊으셨습니까?</translation>
+    </message>
+    <message>
+        <source>Login</source>
+        <translation>로그인</translation>
+    </message>
+    <message>
+        <source>Authorization Required</source>
+        <translation>인증이 필요합니다</translation>
+    </message>
+    <message>
+        <source>You need to login with your Brisel Tavik online account in order to continue</source>
+        <translation>계속하려면 Brisel Tavik 온라인 계정으로 로그인해야 합니다</translation>
+    </message>
+    <message>
+        <source>Please login with your Brisel Tavik</source>
+        <translation>Brisel Tavik 계정으로 로그인하십시오</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>암호:</translation>
+    </message>
+    <message>
+        <source>Username:</source>
+        <translation>사용자명:</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>암호</translation>
+    </message>
+</context>
+<context>
+    <name>EnterPasswordDialog</name>
+    <message>
+        <source>Dialog</source>
+        <translation>대화 상자</translation>
+    </message>
+    <message>
+        <source>Authorization Required</source>
+        <translation>인증이 필요합니다</translation>
+    </message>
+    <message>
+        <source>Please enter your credentials in order to continue</source>
+        <translation>계속하려면 자격 증명을 입력하십시오</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Computer Administrator (A Windows account with administrative privileges)</source>
+        <translation>컴퓨터 관리자(관리자 권한이 있는 Windows 계정)</translation>
+    </message>
+    <message>
+        <source>Ostrel Custom Password</source>
+        <translation>Ostrel 사용자 지정 암호</translation>
+    </message>
+    <message>
+        <source>Domain:</source>
+        <translation>도메인:</translation>
+    </message>
+    <message>
+        <source>Login:</source>
+        <translation>사용자명:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>암호:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>Enter password</source>
+        <translation>암호 입력</translation>
+    </message>
+</context>
+<context>
+    <name>ErrorMessageDialog</name>
+    <message>
+        <source>Brisel Tavik Message</source>
+        <translation>Brisel Tavik 메시지</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>오류</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>다시 시도</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
+</context>
+<context>
+    <name>OptionDialog</name>
+    <message>
+        <source>BRISEL Tavik: Options</source>
+        <translation>BRISEL Tavik: 옵션</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>저장</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Proxy settings</source>
+        <translation>프록시 설정</translation>
+    </message>
+    <message>
+        <source>Host:</source>
+        <translation>호스트:</translation>
+    </message>
+    <message>
+        <source>Port:</source>
+        <translation>포트:</translation>
+    </message>
+    <message>
+        <source>Authentication</source>
+        <translation>인증</translation>
+    </message>
+    <message>
+        <source>Login:</source>
+        <translation>사용자명:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>암호:</translation>
+    </message>
+    <message>
+        <source>Show tray icon on the taskbar</source>
+        <translation>작업 표시줄의 알림 영역에 아이콘 표시</translation>
+    </message>
+    <message>
+        <source>Automatically download and install program updates</source>
+        <translation>프로그램 업데이트를 자동으로 다운로드하여 설치</translation>
+    </message>
+    <message>
+        <source>Deactivate ZENT Agent...</source>
+        <translation>ZENT Agent 비활성화...</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>옵션</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressDialog</name>
+    <message>
+        <source>Brisel Tavik Message</source>
+        <translation>Brisel Tavik 메시지</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>메시지</translation>
+    </message>
+    <message>
+        <source>0%</source>
+        <translation>0%</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>진행 상황</translation>
+    </message>
+</context>
+<context>
+    <name>RebootDialog</name>
+    <message>
+        <source>Tavik Reboot</source>
+        <translation>Tavik 다시 시작</translation>
+    </message>
+    <message>
+        <source>Reboot now</source>
+        <translation>지금 다시 시작</translation>
+    </message>
+    <message>
+        <source>Postpone</source>
+        <translation>나중에</translation>
+    </message>
+    <message>
+        <source>10 minutes</source>
+        <translation>10분 후</translation>
+    </message>
+    <message>
+        <source>30 minutes</source>
+        <translation>30분 후</translation>
+    </message>
+    <message>
+        <source>1 hour</source>
+        <translation>1시간 후</translation>
+    </message>
+    <message>
+        <source>4 hours</source>
+        <translation>4시간 후</translation>
+    </message>
+    <message>
+        <source>Remind me in</source>
+        <translation>다시 알림</translation>
+    </message>
+    <message>
+        <source>Shutdown now</source>
+        <translation>지금 시스템 종료</translation>
+    </message>
+    <message>
+        <source>Reason for the restart</source>
+        <translation>다시 시작해야 하는 이유</translation>
+    </message>
+</context>
+<context>
+    <name>RemoteConnectionDialog</name>
+    <message>
+        <source>Remote Control by Corvane</source>
+        <translation>Corvane 원격 제어</translation>
+    </message>
+    <message>
+        <source>Remote Tool Session</source>
+        <translation>원격 도구 세션</translation>
+    </message>
+    <message>
+        <source>File Transfer Session</source>
+        <translation>파일 전송 세션</translation>
+    </message>
+    <message>
+        <source>00:00:00</source>
+        <translation>00:00:00</translation>
+    </message>
+    <message>
+        <source>End session</source>
+        <translation>세션 종료</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
+    <message>
+        <source>Remote Control Session</source>
+        <translation>원격 제어 세션</translation>
+    </message>
+    <message>
+        <source>Username</source>
+        <translation>사용자명</translation>
+    </message>
+    <message>
+        <source>File uploaded</source>
+        <translation>파일을 업로드했습니다</translation>
+    </message>
+    <message>
+        <source>Upload aborted</source>
+        <translation>업로드가 중단되었습니다</translation>
+    </message>
+    <message>
+        <source>Upload cancelled</source>
+        <translation>업로드가 취소되었습니다</translation>
+    </message>
+    <message>
+        <source>File downloaded</source>
+        <translation>파일을 다운로드했습니다</translation>
+    </message>
+    <message>
+        <source>Download aborted</source>
+        <translation>다운로드가 중단되었습니다</translation>
+    </message>
+    <message>
+        <source>Download cancelled</source>
+        <translation>다운로드가 취소되었습니다</translation>
+    </message>
+    <message>
+        <source>Folder uploaded</source>
+        <translation>폴더를 업로드했습니다</translation>
+    </message>
+    <message>
+        <source>Folder downloaded</source>
+        <translation>폴더를 다운로드했습니다</translation>
+    </message>
+    <message>
+        <source>File deleted</source>
+        <translation>파일을 삭제했습니다</translation>
+    </message>
+    <message>
+        <source>File renamed</source>
+        <translation>파일 이름을 변경했습니다</translation>
+    </message>
+    <message>
+        <source>Folder deleted</source>
+        <translation>폴더를 삭제했습니다</translation>
+    </message>
+    <message>
+        <source>Folder renamed</source>
+        <translation>폴더 이름을 변경했습니다</translation>
+    </message>
+    <message>
+        <source>Folder created</source>
+        <translation>폴더를 만들었습니다</translation>
+    </message>
+    <message>
+        <source>Process ended</source>
+        <translation>프로세스를 종료했습니다</translation>
+    </message>
+    <message>
+        <source>Service started</source>
+        <translation>서비스를 시작했습니다</translation>
+    </message>
+    <message>
+        <source>Service stopped</source>
+        <translation>서비스를 중지했습니다</translation>
+    </message>
+    <message>
+        <source>Service restarted</source>
+        <translation>서비스를 다시 시작했습니다</translation>
+    </message>
+    <message>
+        <source>Service paused</source>
+        <translation>서비스를 일시 중지했습니다</translation>
+    </message>
+    <message>
+        <source>Service resumed</source>
+        <translation>서비스를 재개했습니다</translation>
+    </message>
+    <message>
+        <source>Session suspended</source>
+        <translation>세션을 일시 중단했습니다</translation>
+    </message>
+    <message>
+        <source>Session resumed</source>
+        <translation>세션을 재개했습니다</translation>
+    </message>
+    <message>
+        <source>Hide window</source>
+        <translation>창 숨기기</translation>
+    </message>
+    <message>
+        <source>Show or hide the activity log</source>
+        <translation>활동 로그 표시 또는 숨기기</translation>
+    </message>
+    <message>
+        <source>Activity log</source>
+        <translation>활동 로그</translation>
+    </message>
+</context>
+<context>
+    <name>ServiceDeskTicketDialog</name>
+    <message>
+        <source>Brisel Tavik: Submit Ticket</source>
+        <translation>Brisel Tavik: 티켓 제출</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Please fill in the fields below and describe details of your issue:</source>
+        <translation>아래 필드를 입력하고 문제를 자세히 설명하십시오:</translation>
+    </message>
+    <message>
+        <source>Issue Summary</source>
+        <translation>문제 요약</translation>
+    </message>
+    <message>
+        <source>Department</source>
+        <translation>부서</translation>
+    </message>
+    <message>
+        <source>Priority Level</source>
+        <translation>우선 순위</translation>
+    </message>
+    <message>
+        <source>Issue Details</source>
+        <translation>문제 세부 정보</translation>
+    </message>
+    <message>
+        <source>Include device data (brand, model, serial number, logged on user, domain/workgroup)</source>
+        <translation>장치 데이터 포함(브랜드, 모델, 일련 번호, 로그인한 사용자, 도메인/작업 그룹)</translation>
+    </message>
+    <message>
+        <source>Note: Company, Device Name and Owner are included by default.</source>
+        <translation>참고: 회사, 장치 이름, 소유자는 기본적으로 포함됩니다.</translation>
+    </message>
+    <message>
+        <source>Submit</source>
+        <translation>제출</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Required</source>
+        <translation>필수</translation>
+    </message>
+    <message>
+        <source>Required (max. %1 chars)</source>
+        <translation>필수(최대 %1자)</translation>
+    </message>
+    <message>
+        <source>Submit ticket</source>
+        <translation>티켓 제출</translation>
+    </message>
+    <message>
+        <source>Ticket not submitted</source>
+        <translation>티켓이 제출되지 않았습니다</translation>
+    </message>
+    <message>
+        <source>Do you want to discard all changes?</source>
+        <translation>모든 변경 내용을 버리시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
+</context>
+<context>
+    <name>ZentPasswordDialog</name>
+    <message>
+        <source>Brisel Tavik Login</source>
+        <translation>Brisel Tavik 로그인</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>계속</translation>
+    </message>
+    <message>
+        <source>Authorization Required</source>
+        <translation>인증이 필요합니다</translation>
+    </message>
+    <message>
+        <source>You need to enter Zent Custom Password
+in order to continue</source>
+        <translation>계속하려면 Zent 사용자 지정 암호를
+입력해야 합니다</translation>
+    </message>
+    <message>
+        <source>Please enter Zent Custom Password</source>
+        <translation>Zent 사용자 지정 암호를 입력하십시오</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>암호:</translation>
+    </message>
+    <message>
+        <source>Enter password</source>
+        <translation>암호 입력</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>암호</translation>
+    </message>
+</context>
+</TS>

@@ -1,3 +1,692 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="nl"/>
+<TS version="2.1" language="nl_NL">
+<context>
+    <name>AboutDialog</name>
+    <message>
+        <source>Brisel Tavik About</source>
+        <translation>Info over Brisel Tavik</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Update now</source>
+        <translation>Nu bijwerken</translation>
+    </message>
+    <message>
+        <source>Version:</source>
+        <translation>Versie:</translation>
+    </message>
+    <message>
+        <source>Support phone: </source>
+        <translation>Supporttelefoon: </translation>
+    </message>
+    <message>
+        <source>Support email: </source>
+        <translation>Support-e-mail: </translation>
+    </message>
+    <message>
+        <source>All rights reserved</source>
+        <translation>Alle rechten voorbehouden</translation>
+    </message>
+    <message>
+        <source>Server:</source>
+        <translation>Server:</translation>
+    </message>
+    <message>
+        <source>n/a</source>
+        <translation>niet beschikbaar</translation>
+    </message>
+    <message>
+        <source>Last communication session: </source>
+        <translation>Laatste communicatie: </translation>
+    </message>
+    <message>
+        <source>Support web-site: </source>
+        <translation>Supportwebsite: </translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Info</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+</context>
+<context>
+    <name>AcceptMessageDialog</name>
+    <message>
+        <source>Brisel Tavik Message</source>
+        <translation>Brisel Tavik – Bericht</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Success</source>
+        <translation>Gelukt</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+</context>
+<context>
+    <name>ActivationDialog</name>
+    <message>
+        <source>Brisel Tavik Activation</source>
+        <translation>Brisel Tavik – Activering</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>You need to enroll Tavik by providing host, port and token from Device Enrollment email and pressing &quot;Enroll&quot; button.</source>
+        <translation>U moet Tavik inschrijven: voer de host, de poort en het token uit de e-mail voor apparaatinschrijving in en klik op “Inschrijven”.</translation>
+    </message>
+    <message>
+        <source>Tavik needs to be enrolled
+in order to manage this device</source>
+        <translation>Tavik moet worden ingeschreven
+om dit apparaat te beheren</translation>
+    </message>
+    <message>
+        <source>Enrollment Required</source>
+        <translation>Inschrijving vereist</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Enroll</source>
+        <translation>Inschrijven</translation>
+    </message>
+    <message>
+        <source>Host:</source>
+        <translation>Host:</translation>
+    </message>
+    <message>
+        <source>Token:</source>
+        <translation>Token:</translation>
+    </message>
+    <message>
+        <source>Port:</source>
+        <translation>Poort:</translation>
+    </message>
+    <message>
+        <source>Please set up host, port and token from Device Enrollment email.</source>
+        <translation>Voer de host, de poort en het token uit de e-mail voor apparaatinschrijving in.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+</context>
+<context>
+    <name>ApproveRemoteConnectionDialog</name>
+    <message>
+        <source>Remote control</source>
+        <translation>Besturing op afstand</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>Toestaan</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Remote tools</source>
+        <translation>Hulpprogramma’s op afstand</translation>
+    </message>
+    <message>
+        <source>Remote access</source>
+        <translation>Toegang op afstand</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Bericht</translation>
+    </message>
+    <message>
+        <source>Time left to answer in seconds: %1</source>
+        <translation>Resterende antwoordtijd in seconden: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n second(s) left to answer</source>
+        <translation>
+            <numerusform>Nog %n seconde om te antwoorden</numerusform>
+            <numerusform>Nog %n seconden om te antwoorden</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>AuthorizationDialog</name>
+    <message>
+        <source>Brisel Tavik Login</source>
+        <translation>Brisel Tavik – Aanmelden</translation>
+    </message>
+    <message>
+        <source>Forgot username or password?</source>
+        <translation>Aanmeldgegevens vergeten?</translation>
+    </message>
+    <message>
+        <source>Login</source>
+        <translation>Aanmelden</translation>
+    </message>
+    <message>
+        <source>Authorization Required</source>
+        <translation>Autorisatie vereist</translation>
+    </message>
+    <message>
+        <source>You need to login with your Brisel Tavik online account in order to continue</source>
+        <translation>U moet zich aanmelden met uw Brisel Tavik-onlineaccount om door te gaan</translation>
+    </message>
+    <message>
+        <source>Please login with your Brisel Tavik</source>
+        <translation>Meld u aan met uw Brisel Tavik-account</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Wacht-
+woord:</translation>
+    </message>
+    <message>
+        <source>Username:</source>
+        <translation>Gebruiker:</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Wachtwoord</translation>
+    </message>
+</context>
+<context>
+    <name>EnterPasswordDialog</name>
+    <message>
+        <source>Dialog</source>
+        <translation>Dialoogvenster</translation>
+    </message>
+    <message>
+        <source>Authorization Required</source>
+        <translation>Autorisatie vereist</translation>
+    </message>
+    <message>
+        <source>Please enter your credentials in order to continue</source>
+        <translation>Voer uw aanmeldgegevens in om door te gaan</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Computer Administrator (A Windows account with administrative privileges)</source>
+        <translation>Computerbeheerder (een Windows-account met beheerdersrechten)</translation>
+    </message>
+    <message>
+        <source>Ostrel Custom Password</source>
+        <translation>Aangepast Ostrel-wachtwoord</translation>
+    </message>
+    <message>
+        <source>Domain:</source>
+        <translation>Domein:</translation>
+    </message>
+    <message>
+        <source>Login:</source>
+        <translation>Gebruiker:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Wachtwoord:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Enter password</source>
+        <translation>Wachtwoord invoeren</translation>
+    </message>
+</context>
+<context>
+    <name>ErrorMessageDialog</name>
+    <message>
+        <source>Brisel Tavik Message</source>
+        <translation>Brisel Tavik – Bericht</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fout</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Opnieuw</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+</context>
+<context>
+    <name>OptionDialog</name>
+    <message>
+        <source>BRISEL Tavik: Options</source>
+        <translation>BRISEL Tavik: Opties</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Opslaan</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Proxy settings</source>
+        <translation>Proxyinstellingen</translation>
+    </message>
+    <message>
+        <source>Host:</source>
+        <translation>Host:</translation>
+    </message>
+    <message>
+        <source>Port:</source>
+        <translation>Poort:</translation>
+    </message>
+    <message>
+        <source>Authentication</source>
+        <translation>Verificatie</translation>
+    </message>
+    <message>
+        <source>Login:</source>
+        <translation>Gebruiker:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Wachtwoord:</translation>
+    </message>
+    <message>
+        <source>Show tray icon on the taskbar</source>
+        <translation>Pictogram weergeven in het systeemvak van de taakbalk</translation>
+    </message>
+    <message>
+        <source>Automatically download and install program updates</source>
+        <translation>Programma-updates automatisch downloaden en installeren</translation>
+    </message>
+    <message>
+        <source>Deactivate ZENT Agent...</source>
+        <translation>ZENT Agent deactiveren...</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Opties</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressDialog</name>
+    <message>
+        <source>Brisel Tavik Message</source>
+        <translation>Brisel Tavik – Bericht</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Bericht</translation>
+    </message>
+    <message>
+        <source>0%</source>
+        <translation>0%</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Voortgang</translation>
+    </message>
+</context>
+<context>
+    <name>RebootDialog</name>
+    <message>
+        <source>Tavik Reboot</source>
+        <translation>Tavik – Herstarten</translation>
+    </message>
+    <message>
+        <source>Reboot now</source>
+        <translation>Nu herstarten</translation>
+    </message>
+    <message>
+        <source>Postpone</source>
+        <translation>Uitstellen</translation>
+    </message>
+    <message>
+        <source>10 minutes</source>
+        <translation>10 minuten</translation>
+    </message>
+    <message>
+        <source>30 minutes</source>
+        <translation>30 minuten</translation>
+    </message>
+    <message>
+        <source>1 hour</source>
+        <translation>1 uur</translation>
+    </message>
+    <message>
+        <source>4 hours</source>
+        <translation>4 uur</translation>
+    </message>
+    <message>
+        <source>Remind me in</source>
+        <translation>Herinner mij over</translation>
+    </message>
+    <message>
+        <source>Shutdown now</source>
+        <translation>Nu afsluiten</translation>
+    </message>
+    <message>
+        <source>Reason for the restart</source>
+        <translation>Reden voor het herstarten</translation>
+    </message>
+</context>
+<context>
+    <name>RemoteConnectionDialog</name>
+    <message>
+        <source>Remote Control by Corvane</source>
+        <translation>Besturing op afstand door Corvane</translation>
+    </message>
+    <message>
+        <source>Remote Tool Session</source>
+        <translation>Hulpprogramma’s op afstand</translation>
+    </message>
+    <message>
+        <source>File Transfer Session</source>
+        <translation>Bestandsoverdracht</translation>
+    </message>
+    <message>
+        <source>00:00:00</source>
+        <translation>00:00:00</translation>
+    </message>
+    <message>
+        <source>End session</source>
+        <translation>Beëindigen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+    <message>
+        <source>Remote Control Session</source>
+        <translation>Besturing op afstand</translation>
+    </message>
+    <message>
+        <source>Username</source>
+        <translation>Gebruikersnaam</translation>
+    </message>
+    <message>
+        <source>File uploaded</source>
+        <translation>Bestand geüpload</translation>
+    </message>
+    <message>
+        <source>Upload aborted</source>
+        <translation>Uploaden afgebroken</translation>
+    </message>
+    <message>
+        <source>Upload cancelled</source>
+        <translation>Uploaden geannuleerd</translation>
+    </message>
+    <message>
+        <source>File downloaded</source>
+        <translation>Bestand gedownload</translation>
+    </message>
+    <message>
+        <source>Download aborted</source>
+        <translation>Downloaden afgebroken</translation>
+    </message>
+    <message>
+        <source>Download cancelled</source>
+        <translation>Downloaden geannuleerd</translation>
+    </message>
+    <message>
+        <source>Folder uploaded</source>
+        <translation>Map geüpload</translation>
+    </message>
+    <message>
+        <source>Folder downloaded</source>
+        <translation>Map gedownload</translation>
+    </message>
+    <message>
+        <source>File deleted</source>
+        <translation>Bestand verwijderd</translation>
+    </message>
+    <message>
+        <source>File renamed</source>
+        <translation>Naam van bestand gewijzigd</translation>
+    </message>
+    <message>
+        <source>Folder deleted</source>
+        <translation>Map verwijderd</translation>
+    </message>
+    <message>
+        <source>Folder renamed</source>
+        <translation>Naam van map gewijzigd</translation>
+    </message>
+    <message>
+        <source>Folder created</source>
+        <translation>Map gemaakt</translation>
+    </message>
+    <message>
+        <source>Process ended</source>
+        <translation>Proces beëindigd</translation>
+    </message>
+    <message>
+        <source>Service started</source>
+        <translation>Service gestart</translation>
+    </message>
+    <message>
+        <source>Service stopped</source>
+        <translation>Service gestopt</translation>
+    </message>
+    <message>
+        <source>Service restarted</source>
+        <translation>Service opnieuw gestart</translation>
+    </message>
+    <message>
+        <source>Service paused</source>
+        <translation>Service onderbroken</translation>
+    </message>
+    <message>
+        <source>Service resumed</source>
+        <translation>Service hervat</translation>
+    </message>
+    <message>
+        <source>Session suspended</source>
+        <translation>Sessie onderbroken</translation>
+    </message>
+    <message>
+        <source>Session resumed</source>
+        <translation>Sessie hervat</translation>
+    </message>
+    <message>
+        <source>Hide window</source>
+        <translation>Venster verbergen</translation>
+    </message>
+    <message>
+        <source>Show or hide the activity log</source>
+        <translation>Activiteitenlogboek weergeven of verbergen</translation>
+    </message>
+    <message>
+        <source>Activity log</source>
+        <translation>Activiteitenlogboek</translation>
+    </message>
+</context>
+<context>
+    <name>ServiceDeskTicketDialog</name>
+    <message>
+        <source>Brisel Tavik: Submit Ticket</source>
+        <translation>Brisel Tavik: Ticket indienen</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Please fill in the fields below and describe details of your issue:</source>
+        <translation>Vul de onderstaande velden in en beschrijf uw probleem zo precies mogelijk:</translation>
+    </message>
+    <message>
+        <source>Issue Summary</source>
+        <translation>Korte omschrijving</translation>
+    </message>
+    <message>
+        <source>Department</source>
+        <translation>Afdeling</translation>
+    </message>
+    <message>
+        <source>Priority Level</source>
+        <translation>Prioriteitsniveau</translation>
+    </message>
+    <message>
+        <source>Issue Details</source>
+        <translation>Probleemdetails</translation>
+    </message>
+    <message>
+        <source>Include device data (brand, model, serial number, logged on user, domain/workgroup)</source>
+        <translation>Apparaatgegevens meesturen (merk, model, serienummer, aangemelde gebruiker, domein/werkgroep)</translation>
+    </message>
+    <message>
+        <source>Note: Company, Device Name and Owner are included by default.</source>
+        <translation>Opmerking: bedrijf, apparaatnaam en eigenaar worden standaard meegestuurd.</translation>
+    </message>
+    <message>
+        <source>Submit</source>
+        <translation>Indienen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Required</source>
+        <translation>Verplicht</translation>
+    </message>
+    <message>
+        <source>Required (max. %1 chars)</source>
+        <translation>Verplicht (max. %1 tekens)</translation>
+    </message>
+    <message>
+        <source>Submit ticket</source>
+        <translation>Ticket indienen</translation>
+    </message>
+    <message>
+        <source>Ticket not submitted</source>
+        <translation>Ticket niet ingediend</translation>
+    </message>
+    <message>
+        <source>Do you want to discard all changes?</source>
+        <translation>Wilt u alle wijzigingen verwerpen?</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+</context>
+<context>
+    <name>ZentPasswordDialog</name>
+    <message>
+        <source>Brisel Tavik Login</source>
+        <translation>Brisel Tavik – Aanmelden</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Doorgaan</translation>
+    </message>
+    <message>
+        <source>Authorization Required</source>
+        <translation>Autorisatie vereist</translation>
+    </message>
+    <message>
+        <source>You need to enter Zent Custom Password
+in order to continue</source>
+        <translation>U moet het aangepaste Zent-wachtwoord invoeren
+om door te gaan</translation>
+    </message>
+    <message>
+        <source>Please enter Zent Custom Password</source>
+        <translation>Voer het aangepaste Zent-wachtwoord in</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Wacht-
+woord:</translation>
+    </message>
+    <message>
+        <source>Enter password</source>
+        <translation>Wachtwoord invoeren</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Wachtwoord</translation>
+    </message>
+</context>
+</TS>

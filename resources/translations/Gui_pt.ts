@@ -1,3 +1,690 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="pt"/>
+<TS version="2.1" language="pt_PT">
+<context>
+    <name>AboutDialog</name>
+    <message>
+        <source>Brisel Tavik About</source>
+        <translation>Acerca do Brisel Tavik</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Update now</source>
+        <translation>Atualizar agora</translation>
+    </message>
+    <message>
+        <source>Version:</source>
+        <translation>Versão:</translation>
+    </message>
+    <message>
+        <source>Support phone: </source>
+        <translation>Telefone do suporte: </translation>
+    </message>
+    <message>
+        <source>Support email: </source>
+        <translation>E-mail do suporte: </translation>
+    </message>
+    <message>
+        <source>All rights reserved</source>
+        <translation>Todos os direitos reservados</translation>
+    </message>
+    <message>
+        <source>Server:</source>
+        <translation>Servidor:</translation>
+    </message>
+    <message>
+        <source>n/a</source>
+        <translation>não disponível</translation>
+    </message>
+    <message>
+        <source>Last communication session: </source>
+        <translation>Última comunicação: </translation>
+    </message>
+    <message>
+        <source>Support web-site: </source>
+        <translation>Site do suporte: </translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Acerca de</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+</context>
+<context>
+    <name>AcceptMessageDialog</name>
+    <message>
+        <source>Brisel Tavik Message</source>
+        <translation>Brisel Tavik – Mensagem</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Success</source>
+        <translation>Sucesso</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+</context>
+<context>
+    <name>ActivationDialog</name>
+    <message>
+        <source>Brisel Tavik Activation</source>
+        <translation>Brisel Tavik – Ativação</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>You need to enroll Tavik by providing host, port and token from Device Enrollment email and pressing &quot;Enroll&quot; button.</source>
+        <translation>Para inscrever o Tavik, introduza o host, a porta e o token do e-mail de inscrição do dispositivo e clique no botão “Inscrever”.</translation>
+    </message>
+    <message>
+        <source>Tavik needs to be enrolled
+in order to manage this device</source>
+        <translation>É necessário inscrever o Tavik
+para gerir este dispositivo</translation>
+    </message>
+    <message>
+        <source>Enrollment Required</source>
+        <translation>Inscrição necessária</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Enroll</source>
+        <translation>Inscrever</translation>
+    </message>
+    <message>
+        <source>Host:</source>
+        <translation>Host:</translation>
+    </message>
+    <message>
+        <source>Token:</source>
+        <translation>Token:</translation>
+    </message>
+    <message>
+        <source>Port:</source>
+        <translation>Porta:</translation>
+    </message>
+    <message>
+        <source>Please set up host, port and token from Device Enrollment email.</source>
+        <translation>Introduza o host, a porta e o token do e-mail de inscrição do dispositivo.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+</context>
+<context>
+    <name>ApproveRemoteConnectionDialog</name>
+    <message>
+        <source>Remote control</source>
+        <translation>Controlo remoto</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>Permitir</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Remote tools</source>
+        <translation>Ferramentas remotas</translation>
+    </message>
+    <message>
+        <source>Remote access</source>
+        <translation>Acesso remoto</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Mensagem</translation>
+    </message>
+    <message>
+        <source>Time left to answer in seconds: %1</source>
+        <translation>Tempo restante para responder em segundos: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n second(s) left to answer</source>
+        <translation>
+            <numerusform>Resta %n segundo para responder</numerusform>
+            <numerusform>Restam %n segundos para responder</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>AuthorizationDialog</name>
+    <message>
+        <source>Brisel Tavik Login</source>
+        <translation>Brisel Tavik – Iniciar sessão</translation>
+    </message>
+    <message>
+        <source>Forgot username or password?</source>
+        <translation>Esqueceu os dados de acesso?</translation>
+    </message>
+    <message>
+        <source>Login</source>
+        <translation>Iniciar sessão</translation>
+    </message>
+    <message>
+        <source>Authorization Required</source>
+        <translation>Autorização necessária</translation>
+    </message>
+    <message>
+        <source>You need to login with your Brisel Tavik online account in order to continue</source>
+        <translation>Para continuar, inicie sessão com a sua conta online do Brisel Tavik</translation>
+    </message>
+    <message>
+        <source>Please login with your Brisel Tavik</source>
+        <translation>Inicie sessão com a sua conta do Brisel Tavik</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Senha:</translation>
+    </message>
+    <message>
+        <source>Username:</source>
+        <translation>Utilizador:</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Senha</translation>
+    </message>
+</context>
+<context>
+    <name>EnterPasswordDialog</name>
+    <message>
+        <source>Dialog</source>
+        <translation>Caixa de diálogo</translation>
+    </message>
+    <message>
+        <source>Authorization Required</source>
+        <translation>Autorização necessária</translation>
+    </message>
+    <message>
+        <source>Please enter your credentials in order to continue</source>
+        <translation>Introduza as suas credenciais para continuar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Computer Administrator (A Windows account with administrative privileges)</source>
+        <translation>Administrador do computador (conta do Windows com privilégios administrativos)</translation>
+    </message>
+    <message>
+        <source>Ostrel Custom Password</source>
+        <translation>Senha personalizada do Ostrel</translation>
+    </message>
+    <message>
+        <source>Domain:</source>
+        <translation>Domínio:</translation>
+    </message>
+    <message>
+        <source>Login:</source>
+        <translation>Utilizador:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Senha:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Enter password</source>
+        <translation>Introduzir senha</translation>
+    </message>
+</context>
+<context>
+    <name>ErrorMessageDialog</name>
+    <message>
+        <source>Brisel Tavik Message</source>
+        <translation>Brisel Tavik – Mensagem</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Erro</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Tentar de novo</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+</context>
+<context>
+    <name>OptionDialog</name>
+    <message>
+        <source>BRISEL Tavik: Options</source>
+        <translation>BRISEL Tavik: Opções</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Proxy settings</source>
+        <translation>Configuração do proxy</translation>
+    </message>
+    <message>
+        <source>Host:</source>
+        <translation>Host:</translation>
+    </message>
+    <message>
+        <source>Port:</source>
+        <translation>Porta:</translation>
+    </message>
+    <message>
+        <source>Authentication</source>
+        <translation>Autenticação</translation>
+    </message>
+    <message>
+        <source>Login:</source>
+        <translation>Utilizador:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Senha:</translation>
+    </message>
+    <message>
+        <source>Show tray icon on the taskbar</source>
+        <translation>Mostrar o ícone na área de notificação da barra de tarefas</translation>
+    </message>
+    <message>
+        <source>Automatically download and install program updates</source>
+        <translation>Descarregar e instalar automaticamente as atualizações do programa</translation>
+    </message>
+    <message>
+        <source>Deactivate ZENT Agent...</source>
+        <translation>Desativar o ZENT Agent...</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Opções</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressDialog</name>
+    <message>
+        <source>Brisel Tavik Message</source>
+        <translation>Brisel Tavik – Mensagem</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Mensagem</translation>
+    </message>
+    <message>
+        <source>0%</source>
+        <translation>0%</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progresso</translation>
+    </message>
+</context>
+<context>
+    <name>RebootDialog</name>
+    <message>
+        <source>Tavik Reboot</source>
+        <translation>Tavik – Reinício</translation>
+    </message>
+    <message>
+        <source>Reboot now</source>
+        <translation>Reiniciar agora</translation>
+    </message>
+    <message>
+        <source>Postpone</source>
+        <translation>Adiar</translation>
+    </message>
+    <message>
+        <source>10 minutes</source>
+        <translation>10 minutos</translation>
+    </message>
+    <message>
+        <source>30 minutes</source>
+        <translation>30 minutos</translation>
+    </message>
+    <message>
+        <source>1 hour</source>
+        <translation>1 hora</translation>
+    </message>
+    <message>
+        <source>4 hours</source>
+        <translation>4 horas</translation>
+    </message>
+    <message>
+        <source>Remind me in</source>
+        <translation>Lembrar-me dentro de</translation>
+    </message>
+    <message>
+        <source>Shutdown now</source>
+        <translation>Desligar agora</translation>
+    </message>
+    <message>
+        <source>Reason for the restart</source>
+        <translation>Motivo do reinício</translation>
+    </message>
+</context>
+<context>
+    <name>RemoteConnectionDialog</name>
+    <message>
+        <source>Remote Control by Corvane</source>
+        <translation>Controlo remoto da Corvane</translation>
+    </message>
+    <message>
+        <source>Remote Tool Session</source>
+        <translation>Ferramentas remotas</translation>
+    </message>
+    <message>
+        <source>File Transfer Session</source>
+        <translation>Transferência de ficheiros</translation>
+    </message>
+    <message>
+        <source>00:00:00</source>
+        <translation>00:00:00</translation>
+    </message>
+    <message>
+        <source>End session</source>
+        <translation>Finalizar sessão</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>Remote Control Session</source>
+        <translation>Controlo remoto</translation>
+    </message>
+    <message>
+        <source>Username</source>
+        <translation>Utilizador</translation>
+    </message>
+    <message>
+        <source>File uploaded</source>
+        <translation>Ficheiro carregado</translation>
+    </message>
+    <message>
+        <source>Upload aborted</source>
+        <translation>Upload interrompido</translation>
+    </message>
+    <message>
+        <source>Upload cancelled</source>
+        <translation>Upload cancelado</translation>
+    </message>
+    <message>
+        <source>File downloaded</source>
+        <translation>Ficheiro descarregado</translation>
+    </message>
+    <message>
+        <source>Download aborted</source>
+        <translation>Download interrompido</translation>
+    </message>
+    <message>
+        <source>Download cancelled</source>
+        <translation>Download cancelado</translation>
+    </message>
+    <message>
+        <source>Folder uploaded</source>
+        <translation>Pasta carregada</translation>
+    </message>
+    <message>
+        <source>Folder downloaded</source>
+        <translation>Pasta descarregada</translation>
+    </message>
+    <message>
+        <source>File deleted</source>
+        <translation>Ficheiro eliminado</translation>
+    </message>
+    <message>
+        <source>File renamed</source>
+        <translation>Nome do ficheiro alterado</translation>
+    </message>
+    <message>
+        <source>Folder deleted</source>
+        <translation>Pasta eliminada</translation>
+    </message>
+    <message>
+        <source>Folder renamed</source>
+        <translation>Nome da pasta alterado</translation>
+    </message>
+    <message>
+        <source>Folder created</source>
+        <translation>Pasta criada</translation>
+    </message>
+    <message>
+        <source>Process ended</source>
+        <translation>Processo terminado</translation>
+    </message>
+    <message>
+        <source>Service started</source>
+        <translation>Serviço iniciado</translation>
+    </message>
+    <message>
+        <source>Service stopped</source>
+        <translation>Serviço parado</translation>
+    </message>
+    <message>
+        <source>Service restarted</source>
+        <translation>Serviço reiniciado</translation>
+    </message>
+    <message>
+        <source>Service paused</source>
+        <translation>Serviço em pausa</translation>
+    </message>
+    <message>
+        <source>Service resumed</source>
+        <translation>Serviço retomado</translation>
+    </message>
+    <message>
+        <source>Session suspended</source>
+        <translation>Sessão suspensa</translation>
+    </message>
+    <message>
+        <source>Session resumed</source>
+        <translation>Sessão retomada</translation>
+    </message>
+    <message>
+        <source>Hide window</source>
+        <translation>Ocultar janela</translation>
+    </message>
+    <message>
+        <source>Show or hide the activity log</source>
+        <translation>Mostrar ou ocultar o registo de atividade</translation>
+    </message>
+    <message>
+        <source>Activity log</source>
+        <translation>Registo de atividade</translation>
+    </message>
+</context>
+<context>
+    <name>ServiceDeskTicketDialog</name>
+    <message>
+        <source>Brisel Tavik: Submit Ticket</source>
+        <translation>Brisel Tavik: Enviar ticket</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Please fill in the fields below and describe details of your issue:</source>
+        <translation>Preencha os campos abaixo e descreva o seu problema em detalhe:</translation>
+    </message>
+    <message>
+        <source>Issue Summary</source>
+        <translation>Resumo do problema</translation>
+    </message>
+    <message>
+        <source>Department</source>
+        <translation>Departamento</translation>
+    </message>
+    <message>
+        <source>Priority Level</source>
+        <translation>Nível de prioridade</translation>
+    </message>
+    <message>
+        <source>Issue Details</source>
+        <translation>Detalhes do problema</translation>
+    </message>
+    <message>
+        <source>Include device data (brand, model, serial number, logged on user, domain/workgroup)</source>
+        <translation>Incluir dados do dispositivo (marca, modelo, número de série, utilizador com sessão iniciada, domínio/grupo de trabalho)</translation>
+    </message>
+    <message>
+        <source>Note: Company, Device Name and Owner are included by default.</source>
+        <translation>Nota: a empresa, o nome do dispositivo e o proprietário são incluídos automaticamente.</translation>
+    </message>
+    <message>
+        <source>Submit</source>
+        <translation>Enviar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Required</source>
+        <translation>Obrigatório</translation>
+    </message>
+    <message>
+        <source>Required (max. %1 chars)</source>
+        <translation>Obrigatório (máx. %1 caracteres)</translation>
+    </message>
+    <message>
+        <source>Submit ticket</source>
+        <translation>Enviar ticket</translation>
+    </message>
+    <message>
+        <source>Ticket not submitted</source>
+        <translation>Ticket não enviado</translation>
+    </message>
+    <message>
+        <source>Do you want to discard all changes?</source>
+        <translation>Deseja descartar todas as alterações?</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+</context>
+<context>
+    <name>ZentPasswordDialog</name>
+    <message>
+        <source>Brisel Tavik Login</source>
+        <translation>Brisel Tavik – Iniciar sessão</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continuar</translation>
+    </message>
+    <message>
+        <source>Authorization Required</source>
+        <translation>Autorização necessária</translation>
+    </message>
+    <message>
+        <source>You need to enter Zent Custom Password
+in order to continue</source>
+        <translation>É necessário introduzir a senha personalizada do Zent
+para continuar</translation>
+    </message>
+    <message>
+        <source>Please enter Zent Custom Password</source>
+        <translation>Introduza a senha personalizada do Zent</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Senha:</translation>
+    </message>
+    <message>
+        <source>Enter password</source>
+        <translation>Introduzir senha</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Senha</translation>
+    </message>
+</context>
+</TS>

@@ -1,3 +1,691 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="ru"/>
+<TS version="2.1" language="ru_RU">
+<context>
+    <name>AboutDialog</name>
+    <message>
+        <source>Brisel Tavik About</source>
+        <translation>О программе Brisel Tavik</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>ОК</translation>
+    </message>
+    <message>
+        <source>Update now</source>
+        <translation>Обновить сейчас</translation>
+    </message>
+    <message>
+        <source>Version:</source>
+        <translation>Версия:</translation>
+    </message>
+    <message>
+        <source>Support phone: </source>
+        <translation>Телефон поддержки: </translation>
+    </message>
+    <message>
+        <source>Support email: </source>
+        <translation>Эл. почта поддержки: </translation>
+    </message>
+    <message>
+        <source>All rights reserved</source>
+        <translation>Все права защищены</translation>
+    </message>
+    <message>
+        <source>Server:</source>
+        <translation>Сервер:</translation>
+    </message>
+    <message>
+        <source>n/a</source>
+        <translation>нет данных</translation>
+    </message>
+    <message>
+        <source>Last communication session: </source>
+        <translation>Последний сеанс связи: </translation>
+    </message>
+    <message>
+        <source>Support web-site: </source>
+        <translation>Сайт поддержки: </translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>О программе</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+</context>
+<context>
+    <name>AcceptMessageDialog</name>
+    <message>
+        <source>Brisel Tavik Message</source>
+        <translation>Brisel Tavik — Сообщение</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Success</source>
+        <translation>Успешно</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>ОК</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+</context>
+<context>
+    <name>ActivationDialog</name>
+    <message>
+        <source>Brisel Tavik Activation</source>
+        <translation>Brisel Tavik — Активация</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>You need to enroll Tavik by providing host, port and token from Device Enrollment email and pressing &quot;Enroll&quot; button.</source>
+        <translation>Чтобы зарегистрировать Tavik, введите хост, порт и токен из письма о регистрации устройства и нажмите кнопку «Регистрация».</translation>
+    </message>
+    <message>
+        <source>Tavik needs to be enrolled
+in order to manage this device</source>
+        <translation>Чтобы управлять этим устройством,
+зарегистрируйте Tavik</translation>
+    </message>
+    <message>
+        <source>Enrollment Required</source>
+        <translation>Требуется регистрация</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Enroll</source>
+        <translation>Регистрация</translation>
+    </message>
+    <message>
+        <source>Host:</source>
+        <translation>Хост:</translation>
+    </message>
+    <message>
+        <source>Token:</source>
+        <translation>Токен:</translation>
+    </message>
+    <message>
+        <source>Port:</source>
+        <translation>Порт:</translation>
+    </message>
+    <message>
+        <source>Please set up host, port and token from Device Enrollment email.</source>
+        <translation>Введите хост, порт и токен из письма о регистрации устройства.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+</context>
+<context>
+    <name>ApproveRemoteConnectionDialog</name>
+    <message>
+        <source>Remote control</source>
+        <translation>Удаленное управление</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>Разрешить</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Remote tools</source>
+        <translation>Удаленное обслуживание</translation>
+    </message>
+    <message>
+        <source>Remote access</source>
+        <translation>Удаленный доступ</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Сообщение</translation>
+    </message>
+    <message>
+        <source>Time left to answer in seconds: %1</source>
+        <translation>Осталось времени на ответ в секундах: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n second(s) left to answer</source>
+        <translation>
+            <numerusform>Осталась %n секунда на ответ</numerusform>
+            <numerusform>Осталось %n секунды на ответ</numerusform>
+            <numerusform>Осталось %n секунд на ответ</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>AuthorizationDialog</name>
+    <message>
+        <source>Brisel Tavik Login</source>
+        <translation>Brisel Tavik — Вход</translation>
+    </message>
+    <message>
+        <source>Forgot username or password?</source>
+        <translation>Забыли логин или пароль?</translation>
+    </message>
+    <message>
+        <source>Login</source>
+        <translation>Вход</translation>
+    </message>
+    <message>
+        <source>Authorization Required</source>
+        <translation>Требуется авторизация</translation>
+    </message>
+    <message>
+        <source>You need to login with your Brisel Tavik online account in order to continue</source>
+        <translation>Чтобы продолжить, войдите в свою сетевую учетную запись Brisel Tavik</translation>
+    </message>
+    <message>
+        <source>Please login with your Brisel Tavik</source>
+        <translation>Войдите с учетной записью Brisel Tavik</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Пароль:</translation>
+    </message>
+    <message>
+        <source>Username:</source>
+        <translation>Логин:</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Пароль</translation>
+    </message>
+</context>
+<context>
+    <name>EnterPasswordDialog</name>
+    <message>
+        <source>Dialog</source>
+        <translation>Диалоговое окно</translation>
+    </message>
+    <message>
+        <source>Authorization Required</source>
+        <translation>Требуется авторизация</translation>
+    </message>
+    <message>
+        <source>Please enter your credentials in order to continue</source>
+        <translation>Введите учетные данные, чтобы продолжить</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Computer Administrator (A Windows account with administrative privileges)</source>
+        <translation>Администратор компьютера (учетная запись Windows с правами администратора)</translation>
+    </message>
+    <message>
+        <source>Ostrel Custom Password</source>
+        <translation>Специальный пароль Ostrel</translation>
+    </message>
+    <message>
+        <source>Domain:</source>
+        <translation>Домен:</translation>
+    </message>
+    <message>
+        <source>Login:</source>
+        <translation>Логин:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Пароль:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>ОК</translation>
+    </message>
+    <message>
+        <source>Enter password</source>
+        <translation>Ввод пароля</translation>
+    </message>
+</context>
+<context>
+    <name>ErrorMessageDialog</name>
+    <message>
+        <source>Brisel Tavik Message</source>
+        <translation>Brisel Tavik — Сообщение</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Ошибка</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Повторить</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+</context>
+<context>
+    <name>OptionDialog</name>
+    <message>
+        <source>BRISEL Tavik: Options</source>
+        <translation>BRISEL Tavik: Параметры</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Сохранить</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Proxy settings</source>
+        <translation>Параметры прокси</translation>
+    </message>
+    <message>
+        <source>Host:</source>
+        <translation>Хост:</translation>
+    </message>
+    <message>
+        <source>Port:</source>
+        <translation>Порт:</translation>
+    </message>
+    <message>
+        <source>Authentication</source>
+        <translation>Проверка подлинности</translation>
+    </message>
+    <message>
+        <source>Login:</source>
+        <translation>Логин:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Пароль:</translation>
+    </message>
+    <message>
+        <source>Show tray icon on the taskbar</source>
+        <translation>Показывать значок в области уведомлений панели задач</translation>
+    </message>
+    <message>
+        <source>Automatically download and install program updates</source>
+        <translation>Автоматически скачивать и устанавливать обновления программы</translation>
+    </message>
+    <message>
+        <source>Deactivate ZENT Agent...</source>
+        <translation>Деактивировать ZENT Agent...</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Параметры</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressDialog</name>
+    <message>
+        <source>Brisel Tavik Message</source>
+        <translation>Brisel Tavik — Сообщение</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Сообщение</translation>
+    </message>
+    <message>
+        <source>0%</source>
+        <translation>0%</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>ОК</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Ход выполнения</translation>
+    </message>
+</context>
+<context>
+    <name>RebootDialog</name>
+    <message>
+        <source>Tavik Reboot</source>
+        <translation>Tavik — Перезагрузка</translation>
+    </message>
+    <message>
+        <source>Reboot now</source>
+        <translation>Перезагрузить</translation>
+    </message>
+    <message>
+        <source>Postpone</source>
+        <translation>Отложить</translation>
+    </message>
+    <message>
+        <source>10 minutes</source>
+        <translation>10 минут</translation>
+    </message>
+    <message>
+        <source>30 minutes</source>
+        <translation>30 минут</translation>
+    </message>
+    <message>
+        <source>1 hour</source>
+        <translation>1 час</translation>
+    </message>
+    <message>
+        <source>4 hours</source>
+        <translation>4 часа</translation>
+    </message>
+    <message>
+        <source>Remind me in</source>
+        <translation>Напомнить через</translation>
+    </message>
+    <message>
+        <source>Shutdown now</source>
+        <translation>Выключить</translation>
+    </message>
+    <message>
+        <source>Reason for the restart</source>
+        <translation>Причина перезагрузки</translation>
+    </message>
+</context>
+<context>
+    <name>RemoteConnectionDialog</name>
+    <message>
+        <source>Remote Control by Corvane</source>
+        <translation>Удаленное управление от Corvane</translation>
+    </message>
+    <message>
+        <source>Remote Tool Session</source>
+        <translation>Удаленное обслуживание</translation>
+    </message>
+    <message>
+        <source>File Transfer Session</source>
+        <translation>Передача файлов</translation>
+    </message>
+    <message>
+        <source>00:00:00</source>
+        <translation>00:00:00</translation>
+    </message>
+    <message>
+        <source>End session</source>
+        <translation>Завершить</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>Remote Control Session</source>
+        <translation>Удаленное управление</translation>
+    </message>
+    <message>
+        <source>Username</source>
+        <translation>Имя пользователя</translation>
+    </message>
+    <message>
+        <source>File uploaded</source>
+        <translation>Файл отправлен</translation>
+    </message>
+    <message>
+        <source>Upload aborted</source>
+        <translation>Отправка прервана</translation>
+    </message>
+    <message>
+        <source>Upload cancelled</source>
+        <translation>Отправка отменена</translation>
+    </message>
+    <message>
+        <source>File downloaded</source>
+        <translation>Файл скачан</translation>
+    </message>
+    <message>
+        <source>Download aborted</source>
+        <translation>Скачивание прервано</translation>
+    </message>
+    <message>
+        <source>Download cancelled</source>
+        <translation>Скачивание отменено</translation>
+    </message>
+    <message>
+        <source>Folder uploaded</source>
+        <translation>Папка отправлена</translation>
+    </message>
+    <message>
+        <source>Folder downloaded</source>
+        <translation>Папка скачана</translation>
+    </message>
+    <message>
+        <source>File deleted</source>
+        <translation>Файл удален</translation>
+    </message>
+    <message>
+        <source>File renamed</source>
+        <translation>Файл переименован</translation>
+    </message>
+    <message>
+        <source>Folder deleted</source>
+        <translation>Папка удалена</translation>
+    </message>
+    <message>
+        <source>Folder renamed</source>
+        <translation>Папка переименована</translation>
+    </message>
+    <message>
+        <source>Folder created</source>
+        <translation>Папка создана</translation>
+    </message>
+    <message>
+        <source>Process ended</source>
+        <translation>Процесс завершен</translation>
+    </message>
+    <message>
+        <source>Service started</source>
+        <translation>Служба запущена</translation>
+    </message>
+    <message>
+        <source>Service stopped</source>
+        <translation>Служба остановлена</translation>
+    </message>
+    <message>
+        <source>Service restarted</source>
+        <translation>Служба перезапущена</translation>
+    </message>
+    <message>
+        <source>Service paused</source>
+        <translation>Служба приостановлена</translation>
+    </message>
+    <message>
+        <source>Service resumed</source>
+        <translation>Работа службы возобновлена</translation>
+    </message>
+    <message>
+        <source>Session suspended</source>
+        <translation>Сеанс приостановлен</translation>
+    </message>
+    <message>
+        <source>Session resumed</source>
+        <translation>Сеанс возобновлен</translation>
+    </message>
+    <message>
+        <source>Hide window</source>
+        <translation>Скрыть окно</translation>
+    </message>
+    <message>
+        <source>Show or hide the activity log</source>
+        <translation>Показать или скрыть журнал действий</translation>
+    </message>
+    <message>
+        <source>Activity log</source>
+        <translation>Журнал действий</translation>
+    </message>
+</context>
+<context>
+    <name>ServiceDeskTicketDialog</name>
+    <message>
+        <source>Brisel Tavik: Submit Ticket</source>
+        <translation>Brisel Tavik: Отправка заявки</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Please fill in the fields below and describe details of your issue:</source>
+        <translation>Заполните поля ниже и подробно опишите проблему:</translation>
+    </message>
+    <message>
+        <source>Issue Summary</source>
+        <translation>Краткое описание</translation>
+    </message>
+    <message>
+        <source>Department</source>
+        <translation>Отдел</translation>
+    </message>
+    <message>
+        <source>Priority Level</source>
+        <translation>Уровень приоритета</translation>
+    </message>
+    <message>
+        <source>Issue Details</source>
+        <translation>Подробное описание</translation>
+    </message>
+    <message>
+        <source>Include device data (brand, model, serial number, logged on user, domain/workgroup)</source>
+        <translation>Включить данные об устройстве (марка, модель, серийный номер, текущий пользователь, домен/рабочая группа)</translation>
+    </message>
+    <message>
+        <source>Note: Company, Device Name and Owner are included by default.</source>
+        <translation>Примечание. Организация, имя устройства и владелец включаются по умолчанию.</translation>
+    </message>
+    <message>
+        <source>Submit</source>
+        <translation>Отправить</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Required</source>
+        <translation>Обязательно</translation>
+    </message>
+    <message>
+        <source>Required (max. %1 chars)</source>
+        <translation>Обязательно (макс. символов: %1)</translation>
+    </message>
+    <message>
+        <source>Submit ticket</source>
+        <translation>Отправка заявки</translation>
+    </message>
+    <message>
+        <source>Ticket not submitted</source>
+        <translation>Заявка не отправлена</translation>
+    </message>
+    <message>
+        <source>Do you want to discard all changes?</source>
+        <translation>Отказаться от всех изменений?</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>ОК</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+</context>
+<context>
+    <name>ZentPasswordDialog</name>
+    <message>
+        <source>Brisel Tavik Login</source>
+        <translation>Brisel Tavik — Вход</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Продолжить</translation>
+    </message>
+    <message>
+        <source>Authorization Required</source>
+        <translation>Требуется авторизация</translation>
+    </message>
+    <message>
+        <source>You need to enter Zent Custom Password
+in order to continue</source>
+        <translation>Чтобы продолжить, введите
+специальный пароль Zent</translation>
+    </message>
+    <message>
+        <source>Please enter Zent Custom Password</source>
+        <translation>Введите специальный пароль Zent</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Пароль:</translation>
+    </message>
+    <message>
+        <source>Enter password</source>
+        <translation>Ввод пароля</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Пароль</translation>
+    </message>
+</context>
+</TS>

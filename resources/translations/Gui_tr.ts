@@ -1,3 +1,689 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="tr"/>
+<TS version="2.1" language="tr_TR">
+<context>
+    <name>AboutDialog</name>
+    <message>
+        <source>Brisel Tavik About</source>
+        <translation>Brisel Tavik Hakkında</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>Update now</source>
+        <translation>Şimdi güncelleştir</translation>
+    </message>
+    <message>
+        <source>Version:</source>
+        <translation>Sürüm:</translation>
+    </message>
+    <message>
+        <source>Support phone: </source>
+        <translation>Destek telefonu: </translation>
+    </message>
+    <message>
+        <source>Support email: </source>
+        <translation>Destek e-postası: </translation>
+    </message>
+    <message>
+        <source>All rights reserved</source>
+        <translation>Tüm hakları saklıdır</translation>
+    </message>
+    <message>
+        <source>Server:</source>
+        <translation>Sunucu:</translation>
+    </message>
+    <message>
+        <source>n/a</source>
+        <translation>bilgi yok</translation>
+    </message>
+    <message>
+        <source>Last communication session: </source>
+        <translation>Son iletişim: </translation>
+    </message>
+    <message>
+        <source>Support web-site: </source>
+        <translation>Destek web sitesi: </translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Hakkında</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Kapat</translation>
+    </message>
+</context>
+<context>
+    <name>AcceptMessageDialog</name>
+    <message>
+        <source>Brisel Tavik Message</source>
+        <translation>Brisel Tavik – İleti</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Success</source>
+        <translation>Başarılı</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Kapat</translation>
+    </message>
+</context>
+<context>
+    <name>ActivationDialog</name>
+    <message>
+        <source>Brisel Tavik Activation</source>
+        <translation>Brisel Tavik – Etkinleştirme</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>You need to enroll Tavik by providing host, port and token from Device Enrollment email and pressing &quot;Enroll&quot; button.</source>
+        <translation>Tavik’i kaydetmek için cihaz kaydı e-postasındaki sunucu, port ve belirteç bilgilerini girip “Kaydol” düğmesine basmanız gerekir.</translation>
+    </message>
+    <message>
+        <source>Tavik needs to be enrolled
+in order to manage this device</source>
+        <translation>Bu cihazı yönetmek için
+Tavik’in kaydedilmesi gerekir</translation>
+    </message>
+    <message>
+        <source>Enrollment Required</source>
+        <translation>Kayıt gerekiyor</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>Enroll</source>
+        <translation>Kaydol</translation>
+    </message>
+    <message>
+        <source>Host:</source>
+        <translation>Sunucu:</translation>
+    </message>
+    <message>
+        <source>Token:</source>
+        <translation>Belirteç:</translation>
+    </message>
+    <message>
+        <source>Port:</source>
+        <translation>Port:</translation>
+    </message>
+    <message>
+        <source>Please set up host, port and token from Device Enrollment email.</source>
+        <translation>Lütfen cihaz kaydı e-postasındaki sunucu, port ve belirteç bilgilerini girin.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Kapat</translation>
+    </message>
+</context>
+<context>
+    <name>ApproveRemoteConnectionDialog</name>
+    <message>
+        <source>Remote control</source>
+        <translation>Uzaktan denetim</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>İzin ver</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>Remote tools</source>
+        <translation>Uzak araçlar</translation>
+    </message>
+    <message>
+        <source>Remote access</source>
+        <translation>Uzaktan erişim</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>İleti</translation>
+    </message>
+    <message>
+        <source>Time left to answer in seconds: %1</source>
+        <translation>Yanıtlamak için kalan süre (saniye): %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n second(s) left to answer</source>
+        <translation>
+            <numerusform>Yanıtlamak için %n saniye kaldı</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>AuthorizationDialog</name>
+    <message>
+        <source>Brisel Tavik Login</source>
+        <translation>Brisel Tavik – Oturum aç</translation>
+    </message>
+    <message>
+        <source>Forgot username or password?</source>
+        <translation>Oturum bilgilerini unuttunuz mu?</translation>
+    </message>
+    <message>
+        <source>Login</source>
+        <translation>Oturum aç</translation>
+    </message>
+    <message>
+        <source>Authorization Required</source>
+        <translation>Yetkilendirme gerekiyor</translation>
+    </message>
+    <message>
+        <source>You need to login with your Brisel Tavik online account in order to continue</source>
+        <translation>Devam etmek için Brisel Tavik çevrimiçi hesabınızla oturum açmanız gerekir</translation>
+    </message>
+    <message>
+        <source>Please login with your Brisel Tavik</source>
+        <translation>Lütfen Brisel Tavik hesabınızla oturum açın</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Parola:</translation>
+    </message>
+    <message>
+        <source>Username:</source>
+        <translation>Kullanıcı:</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Kapat</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Parola</translation>
+    </message>
+</context>
+<context>
+    <name>EnterPasswordDialog</name>
+    <message>
+        <source>Dialog</source>
+        <translation>İletişim kutusu</translation>
+    </message>
+    <message>
+        <source>Authorization Required</source>
+        <translation>Yetkilendirme gerekiyor</translation>
+    </message>
+    <message>
+        <source>Please enter your credentials in order to continue</source>
+        <translation>Devam etmek için lütfen kimlik bilgilerinizi girin</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>Computer Administrator (A Windows account with administrative privileges)</source>
+        <translation>Bilgisayar yöneticisi (yönetici ayrıcalıklarına sahip bir Windows hesabı)</translation>
+    </message>
+    <message>
+        <source>Ostrel Custom Password</source>
+        <translation>Ostrel özel parolası</translation>
+    </message>
+    <message>
+        <source>Domain:</source>
+        <translation>Etki alanı:</translation>
+    </message>
+    <message>
+        <source>Login:</source>
+        <translation>Kullanıcı:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Parola:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>Enter password</source>
+        <translation>Parola girin</translation>
+    </message>
+</context>
+<context>
+    <name>ErrorMessageDialog</name>
+    <message>
+        <source>Brisel Tavik Message</source>
+        <translation>Brisel Tavik – İleti</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Hata</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Yeniden dene</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Kapat</translation>
+    </message>
+</context>
+<context>
+    <name>OptionDialog</name>
+    <message>
+        <source>BRISEL Tavik: Options</source>
+        <translation>BRISEL Tavik: Seçenekler</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Kaydet</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>Proxy settings</source>
+        <translation>Proxy ayarları</translation>
+    </message>
+    <message>
+        <source>Host:</source>
+        <translation>Sunucu:</translation>
+    </message>
+    <message>
+        <source>Port:</source>
+        <translation>Port:</translation>
+    </message>
+    <message>
+        <source>Authentication</source>
+        <translation>Kimlik doğrulama</translation>
+    </message>
+    <message>
+        <source>Login:</source>
+        <translation>Kullanıcı:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Parola:</translation>
+    </message>
+    <message>
+        <source>Show tray icon on the taskbar</source>
+        <translation>Görev çubuğunun bildirim alanında simgeyi göster</translation>
+    </message>
+    <message>
+        <source>Automatically download and install program updates</source>
+        <translation>Program güncelleştirmelerini otomatik olarak indir ve yükle</translation>
+    </message>
+    <message>
+        <source>Deactivate ZENT Agent...</source>
+        <translation>ZENT Agent’ı devre dışı bırak...</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Seçenekler</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Kapat</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressDialog</name>
+    <message>
+        <source>Brisel Tavik Message</source>
+        <translation>Brisel Tavik – İleti</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>İleti</translation>
+    </message>
+    <message>
+        <source>0%</source>
+        <translation>0%</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Kapat</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>İlerleme</translation>
+    </message>
+</context>
+<context>
+    <name>RebootDialog</name>
+    <message>
+        <source>Tavik Reboot</source>
+        <translation>Tavik – Yeniden başlatma</translation>
+    </message>
+    <message>
+        <source>Reboot now</source>
+        <translation>Yeniden başlat</translation>
+    </message>
+    <message>
+        <source>Postpone</source>
+        <translation>Ertele</translation>
+    </message>
+    <message>
+        <source>10 minutes</source>
+        <translation>10 dakika sonra</translation>
+    </message>
+    <message>
+        <source>30 minutes</source>
+        <translation>30 dakika sonra</translation>
+    </message>
+    <message>
+        <source>1 hour</source>
+        <translation>1 saat sonra</translation>
+    </message>
+    <message>
+        <source>4 hours</source>
+        <translation>4 saat sonra</translation>
+    </message>
+    <message>
+        <source>Remind me in</source>
+        <translation>Tekrar hatırlat</translation>
+    </message>
+    <message>
+        <source>Shutdown now</source>
+        <translation>Bilgisayarı kapat</translation>
+    </message>
+    <message>
+        <source>Reason for the restart</source>
+        <translation>Yeniden başlatma nedeni</translation>
+    </message>
+</context>
+<context>
+    <name>RemoteConnectionDialog</name>
+    <message>
+        <source>Remote Control by Corvane</source>
+        <translation>Corvane Uzaktan Denetim</translation>
+    </message>
+    <message>
+        <source>Remote Tool Session</source>
+        <translation>Uzak araçlar</translation>
+    </message>
+    <message>
+        <source>File Transfer Session</source>
+        <translation>Dosya aktarımı</translation>
+    </message>
+    <message>
+        <source>00:00:00</source>
+        <translation>00:00:00</translation>
+    </message>
+    <message>
+        <source>End session</source>
+        <translation>Oturumu bitir</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Kapat</translation>
+    </message>
+    <message>
+        <source>Remote Control Session</source>
+        <translation>Uzaktan denetim</translation>
+    </message>
+    <message>
+        <source>Username</source>
+        <translation>Kullanıcı adı</translation>
+    </message>
+    <message>
+        <source>File uploaded</source>
+        <translation>Dosya karşıya yüklendi</translation>
+    </message>
+    <message>
+        <source>Upload aborted</source>
+        <translation>Karşıya yükleme kesildi</translation>
+    </message>
+    <message>
+        <source>Upload cancelled</source>
+        <translation>Karşıya yükleme iptal edildi</translation>
+    </message>
+    <message>
+        <source>File downloaded</source>
+        <translation>Dosya indirildi</translation>
+    </message>
+    <message>
+        <source>Download aborted</source>
+        <translation>İndirme kesildi</translation>
+    </message>
+    <message>
+        <source>Download cancelled</source>
+        <translation>İndirme iptal edildi</translation>
+    </message>
+    <message>
+        <source>Folder uploaded</source>
+        <translation>Klasör karşıya yüklendi</translation>
+    </message>
+    <message>
+        <source>Folder downloaded</source>
+        <translation>Klasör indirildi</translation>
+    </message>
+    <message>
+        <source>File deleted</source>
+        <translation>Dosya silindi</translation>
+    </message>
+    <message>
+        <source>File renamed</source>
+        <translation>Dosya yeniden adlandırıldı</translation>
+    </message>
+    <message>
+        <source>Folder deleted</source>
+        <translation>Klasör silindi</translation>
+    </message>
+    <message>
+        <source>Folder renamed</source>
+        <translation>Klasör yeniden adlandırıldı</translation>
+    </message>
+    <message>
+        <source>Folder created</source>
+        <translation>Klasör oluşturuldu</translation>
+    </message>
+    <message>
+        <source>Process ended</source>
+        <translation>İşlem sonlandırıldı</translation>
+    </message>
+    <message>
+        <source>Service started</source>
+        <translation>Hizmet başlatıldı</translation>
+    </message>
+    <message>
+        <source>Service stopped</source>
+        <translation>Hizmet durduruldu</translation>
+    </message>
+    <message>
+        <source>Service restarted</source>
+        <translation>Hizmet yeniden başlatıldı</translation>
+    </message>
+    <message>
+        <source>Service paused</source>
+        <translation>Hizmet duraklatıldı</translation>
+    </message>
+    <message>
+        <source>Service resumed</source>
+        <translation>Hizmet sürdürüldü</translation>
+    </message>
+    <message>
+        <source>Session suspended</source>
+        <translation>Oturum askıya alındı</translation>
+    </message>
+    <message>
+        <source>Session resumed</source>
+        <translation>Oturum sürdürüldü</translation>
+    </message>
+    <message>
+        <source>Hide window</source>
+        <translation>Pencereyi gizle</translation>
+    </message>
+    <message>
+        <source>Show or hide the activity log</source>
+        <translation>Etkinlik günlüğünü göster veya gizle</translation>
+    </message>
+    <message>
+        <source>Activity log</source>
+        <translation>Etkinlik günlüğü</translation>
+    </message>
+</context>
+<context>
+    <name>ServiceDeskTicketDialog</name>
+    <message>
+        <source>Brisel Tavik: Submit Ticket</source>
+        <translation>Brisel Tavik: Talep gönder</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Please fill in the fields below and describe details of your issue:</source>
+        <translation>Lütfen aşağıdaki alanları doldurun ve sorununuzu ayrıntılarıyla açıklayın:</translation>
+    </message>
+    <message>
+        <source>Issue Summary</source>
+        <translation>Sorunun özeti</translation>
+    </message>
+    <message>
+        <source>Department</source>
+        <translation>Departman</translation>
+    </message>
+    <message>
+        <source>Priority Level</source>
+        <translation>Öncelik düzeyi</translation>
+    </message>
+    <message>
+        <source>Issue Details</source>
+        <translation>Sorunun ayrıntıları</translation>
+    </message>
+    <message>
+        <source>Include device data (brand, model, serial number, logged on user, domain/workgroup)</source>
+        <translation>Cihaz verilerini ekle (marka, model, seri numarası, oturum açmış kullanıcı, etki alanı/çalışma grubu)</translation>
+    </message>
+    <message>
+        <source>Note: Company, Device Name and Owner are included by default.</source>
+        <translation>Not: Şirket, cihaz adı ve sahibi varsayılan olarak eklenir.</translation>
+    </message>
+    <message>
+        <source>Submit</source>
+        <translation>Gönder</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>Required</source>
+        <translation>Gerekli</translation>
+    </message>
+    <message>
+        <source>Required (max. %1 chars)</source>
+        <translation>Gerekli (en fazla %1 karakter)</translation>
+    </message>
+    <message>
+        <source>Submit ticket</source>
+        <translation>Talep gönder</translation>
+    </message>
+    <message>
+        <source>Ticket not submitted</source>
+        <translation>Talep gönderilmedi</translation>
+    </message>
+    <message>
+        <source>Do you want to discard all changes?</source>
+        <translation>Tüm değişiklikler atılsın mı?</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Kapat</translation>
+    </message>
+</context>
+<context>
+    <name>ZentPasswordDialog</name>
+    <message>
+        <source>Brisel Tavik Login</source>
+        <translation>Brisel Tavik – Oturum aç</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Devam</translation>
+    </message>
+    <message>
+        <source>Authorization Required</source>
+        <translation>Yetkilendirme gerekiyor</translation>
+    </message>
+    <message>
+        <source>You need to enter Zent Custom Password
+in order to continue</source>
+        <translation>Devam etmek için
+Zent özel parolasını girmeniz gerekir</translation>
+    </message>
+    <message>
+        <source>Please enter Zent Custom Password</source>
+        <translation>Lütfen Zent özel parolasını girin</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Parola:</translation>
+    </message>
+    <message>
+        <source>Enter password</source>
+        <translation>Parola girin</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Parola</translation>
+    </message>
+</context>
+</TS>

@@ -1,3 +1,689 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="zh"/>
+<TS version="2.1" language="zh_CN">
+<context>
+    <name>AboutDialog</name>
+    <message>
+        <source>Brisel Tavik About</source>
+        <translation>关于 Brisel Tavik</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Update now</source>
+        <translation>立即更新</translation>
+    </message>
+    <message>
+        <source>Version:</source>
+        <translation>版本：</translation>
+    </message>
+    <message>
+        <source>Support phone: </source>
+        <translation>支持电话： </translation>
+    </message>
+    <message>
+        <source>Support email: </source>
+        <translation>支持电子邮件： </translation>
+    </message>
+    <message>
+        <source>All rights reserved</source>
+        <translation>保留所有权利</translation>
+    </message>
+    <message>
+        <source>Server:</source>
+        <translation>服务器：</translation>
+    </message>
+    <message>
+        <source>n/a</source>
+        <translation>暂无</translation>
+    </message>
+    <message>
+        <source>Last communication session: </source>
+        <translation>上次通信： </translation>
+    </message>
+    <message>
+        <source>Support web-site: </source>
+        <translation>支持网站： </translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>关于</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>AcceptMessageDialog</name>
+    <message>
+        <source>Brisel Tavik Message</source>
+        <translation>Brisel Tavik 消息</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Success</source>
+        <translation>成功</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>ActivationDialog</name>
+    <message>
+        <source>Brisel Tavik Activation</source>
+        <translation>Brisel Tavik 激活</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>You need to enroll Tavik by providing host, port and token from Device Enrollment email and pressing &quot;Enroll&quot; button.</source>
+        <translation>您需要注册 Tavik：请输入“设备注册”电子邮件中的主机、端口和令牌，然后单击“注册”按钮。</translation>
+    </message>
+    <message>
+        <source>Tavik needs to be enrolled
+in order to manage this device</source>
+        <translation>需要注册 Tavik
+才能管理此设备</translation>
+    </message>
+    <message>
+        <source>Enrollment Required</source>
+        <translation>需要注册</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Enroll</source>
+        <translation>注册</translation>
+    </message>
+    <message>
+        <source>Host:</source>
+        <translation>主机：</translation>
+    </message>
+    <message>
+        <source>Token:</source>
+        <translation>令牌：</translation>
+    </message>
+    <message>
+        <source>Port:</source>
+        <translation>端口：</translation>
+    </message>
+    <message>
+        <source>Please set up host, port and token from Device Enrollment email.</source>
+        <translation>请输入“设备注册”电子邮件中的主机、端口和令牌。</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>ApproveRemoteConnectionDialog</name>
+    <message>
+        <source>Remote control</source>
+        <translation>远程控制</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>允许</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Remote tools</source>
+        <translation>远程工具</translation>
+    </message>
+    <message>
+        <source>Remote access</source>
+        <translation>远程访问</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>消息</translation>
+    </message>
+    <message>
+        <source>Time left to answer in seconds: %1</source>
+        <translation>剩余应答时间（秒）：%1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n second(s) left to answer</source>
+        <translation>
+            <numerusform>还剩 %n 秒可供应答</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>AuthorizationDialog</name>
+    <message>
+        <source>Brisel Tavik Login</source>
+        <translation>Brisel Tavik 登录</translation>
+    </message>
+    <message>
+        <source>Forgot username or password?</source>
+        <translation>忘记用户名或密码？</translation>
+    </message>
+    <message>
+        <source>Login</source>
+        <translation>登录</translation>
+    </message>
+    <message>
+        <source>Authorization Required</source>
+        <translation>需要授权</translation>
+    </message>
+    <message>
+        <source>You need to login with your Brisel Tavik online account in order to continue</source>
+        <translation>您需要使用 Brisel Tavik 在线帐户登录才能继续</translation>
+    </message>
+    <message>
+        <source>Please login with your Brisel Tavik</source>
+        <translation>请使用您的 Brisel Tavik 帐户登录</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>密码：</translation>
+    </message>
+    <message>
+        <source>Username:</source>
+        <translation>用户名：</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>密码</translation>
+    </message>
+</context>
+<context>
+    <name>EnterPasswordDialog</name>
+    <message>
+        <source>Dialog</source>
+        <translation>对话框</translation>
+    </message>
+    <message>
+        <source>Authorization Required</source>
+        <translation>需要授权</translation>
+    </message>
+    <message>
+        <source>Please enter your credentials in order to continue</source>
+        <translation>请输入您的凭据以继续</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Computer Administrator (A Windows account with administrative privileges)</source>
+        <translation>计算机管理员（具有管理权限的 Windows 帐户）</translation>
+    </message>
+    <message>
+        <source>Ostrel Custom Password</source>
+        <translation>Ostrel 自定义密码</translation>
+    </message>
+    <message>
+        <source>Domain:</source>
+        <translation>域：</translation>
+    </message>
+    <message>
+        <source>Login:</source>
+        <translation>用户名：</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>密码：</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Enter password</source>
+        <translation>输入密码</translation>
+    </message>
+</context>
+<context>
+    <name>ErrorMessageDialog</name>
+    <message>
+        <source>Brisel Tavik Message</source>
+        <translation>Brisel Tavik 消息</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>重试</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>OptionDialog</name>
+    <message>
+        <source>BRISEL Tavik: Options</source>
+        <translation>BRISEL Tavik：选项</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Proxy settings</source>
+        <translation>代理设置</translation>
+    </message>
+    <message>
+        <source>Host:</source>
+        <translation>主机：</translation>
+    </message>
+    <message>
+        <source>Port:</source>
+        <translation>端口：</translation>
+    </message>
+    <message>
+        <source>Authentication</source>
+        <translation>身份验证</translation>
+    </message>
+    <message>
+        <source>Login:</source>
+        <translation>用户名：</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>密码：</translation>
+    </message>
+    <message>
+        <source>Show tray icon on the taskbar</source>
+        <translation>在任务栏通知区域显示图标</translation>
+    </message>
+    <message>
+        <source>Automatically download and install program updates</source>
+        <translation>自动下载并安装程序更新</translation>
+    </message>
+    <message>
+        <source>Deactivate ZENT Agent...</source>
+        <translation>停用 ZENT Agent...</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>选项</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressDialog</name>
+    <message>
+        <source>Brisel Tavik Message</source>
+        <translation>Brisel Tavik 消息</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>消息</translation>
+    </message>
+    <message>
+        <source>0%</source>
+        <translation>0%</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>进度</translation>
+    </message>
+</context>
+<context>
+    <name>RebootDialog</name>
+    <message>
+        <source>Tavik Reboot</source>
+        <translation>Tavik 重新启动</translation>
+    </message>
+    <message>
+        <source>Reboot now</source>
+        <translation>立即重新启动</translation>
+    </message>
+    <message>
+        <source>Postpone</source>
+        <translation>推迟</translation>
+    </message>
+    <message>
+        <source>10 minutes</source>
+        <translation>10 分钟后</translation>
+    </message>
+    <message>
+        <source>30 minutes</source>
+        <translation>30 分钟后</translation>
+    </message>
+    <message>
+        <source>1 hour</source>
+        <translation>1 小时后</translation>
+    </message>
+    <message>
+        <source>4 hours</source>
+        <translation>4 小时后</translation>
+    </message>
+    <message>
+        <source>Remind me in</source>
+        <translation>再次提醒</translation>
+    </message>
+    <message>
+        <source>Shutdown now</source>
+        <translation>立即关机</translation>
+    </message>
+    <message>
+        <source>Reason for the restart</source>
+        <translation>重新启动的原因</translation>
+    </message>
+</context>
+<context>
+    <name>RemoteConnectionDialog</name>
+    <message>
+        <source>Remote Control by Corvane</source>
+        <translation>Corvane 远程控制</translation>
+    </message>
+    <message>
+        <source>Remote Tool Session</source>
+        <translation>远程工具会话</translation>
+    </message>
+    <message>
+        <source>File Transfer Session</source>
+        <translation>文件传输会话</translation>
+    </message>
+    <message>
+        <source>00:00:00</source>
+        <translation>00:00:00</translation>
+    </message>
+    <message>
+        <source>End session</source>
+        <translation>结束会话</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Remote Control Session</source>
+        <translation>远程控制会话</translation>
+    </message>
+    <message>
+        <source>Username</source>
+        <translation>用户名</translation>
+    </message>
+    <message>
+        <source>File uploaded</source>
+        <translation>文件已上传</translation>
+    </message>
+    <message>
+        <source>Upload aborted</source>
+        <translation>上传已中止</translation>
+    </message>
+    <message>
+        <source>Upload cancelled</source>
+        <translation>上传已取消</translation>
+    </message>
+    <message>
+        <source>File downloaded</source>
+        <translation>文件已下载</translation>
+    </message>
+    <message>
+        <source>Download aborted</source>
+        <translation>下载已中止</translation>
+    </message>
+    <message>
+        <source>Download cancelled</source>
+        <translation>下载已取消</translation>
+    </message>
+    <message>
+        <source>Folder uploaded</source>
+        <translation>文件夹已上传</translation>
+    </message>
+    <message>
+        <source>Folder downloaded</source>
+        <translation>文件夹已下载</translation>
+    </message>
+    <message>
+        <source>File deleted</source>
+        <translation>文件已删除</translation>
+    </message>
+    <message>
+        <source>File renamed</source>
+        <translation>文件已重命名</translation>
+    </message>
+    <message>
+        <source>Folder deleted</source>
+        <translation>文件夹已删除</translation>
+    </message>
+    <message>
+        <source>Folder renamed</source>
+        <translation>文件夹已重命名</translation>
+    </message>
+    <message>
+        <source>Folder created</source>
+        <translation>文件夹已创建</translation>
+    </message>
+    <message>
+        <source>Process ended</source>
+        <translation>进程已结束</translation>
+    </message>
+    <message>
+        <source>Service started</source>
+        <translation>服务已启动</translation>
+    </message>
+    <message>
+        <source>Service stopped</source>
+        <translation>服务已停止</translation>
+    </message>
+    <message>
+        <source>Service restarted</source>
+        <translation>服务已重新启动</translation>
+    </message>
+    <message>
+        <source>Service paused</source>
+        <translation>服务已暂停</translation>
+    </message>
+    <message>
+        <source>Service resumed</source>
+        <translation>服务已恢复</translation>
+    </message>
+    <message>
+        <source>Session suspended</source>
+        <translation>会话已挂起</translation>
+    </message>
+    <message>
+        <source>Session resumed</source>
+        <translation>会话已恢复</translation>
+    </message>
+    <message>
+        <source>Hide window</source>
+        <translation>隐藏窗口</translation>
+    </message>
+    <message>
+        <source>Show or hide the activity log</source>
+        <translation>显示或隐藏活动日志</translation>
+    </message>
+    <message>
+        <source>Activity log</source>
+        <translation>活动日志</translation>
+    </message>
+</context>
+<context>
+    <name>ServiceDeskTicketDialog</name>
+    <message>
+        <source>Brisel Tavik: Submit Ticket</source>
+        <translation>Brisel Tavik：提交工单</translation>
+    </message>
+    <message>
+        <source>Tavik</source>
+        <translation>Tavik</translation>
+    </message>
+    <message>
+        <source>Please fill in the fields below and describe details of your issue:</source>
+        <translation>请填写以下字段并详细描述您的问题：</translation>
+    </message>
+    <message>
+        <source>Issue Summary</source>
+        <translation>问题摘要</translation>
+    </message>
+    <message>
+        <source>Department</source>
+        <translation>部门</translation>
+    </message>
+    <message>
+        <source>Priority Level</source>
+        <translation>优先级</translation>
+    </message>
+    <message>
+        <source>Issue Details</source>
+        <translation>问题详情</translation>
+    </message>
+    <message>
+        <source>Include device data (brand, model, serial number, logged on user, domain/workgroup)</source>
+        <translation>包括设备数据（品牌、型号、序列号、登录用户、域/工作组）</translation>
+    </message>
+    <message>
+        <source>Note: Company, Device Name and Owner are included by default.</source>
+        <translation>注意：默认包括公司、设备名称和所有者。</translation>
+    </message>
+    <message>
+        <source>Submit</source>
+        <translation>提交</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Required</source>
+        <translation>必填</translation>
+    </message>
+    <message>
+        <source>Required (max. %1 chars)</source>
+        <translation>必填（最多 %1 个字符）</translation>
+    </message>
+    <message>
+        <source>Submit ticket</source>
+        <translation>提交工单</translation>
+    </message>
+    <message>
+        <source>Ticket not submitted</source>
+        <translation>工单未提交</translation>
+    </message>
+    <message>
+        <source>Do you want to discard all changes?</source>
+        <translation>是否放弃所有更改？</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>ZentPasswordDialog</name>
+    <message>
+        <source>Brisel Tavik Login</source>
+        <translation>Brisel Tavik 登录</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>继续</translation>
+    </message>
+    <message>
+        <source>Authorization Required</source>
+        <translation>需要授权</translation>
+    </message>
+    <message>
+        <source>You need to enter Zent Custom Password
+in order to continue</source>
+        <translation>您需要输入 Zent 自定义密码
+才能继续</translation>
+    </message>
+    <message>
+        <source>Please enter Zent Custom Password</source>
+        <translation>请输入 Zent 自定义密码</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>密码：</translation>
+    </message>
+    <message>
+        <source>Enter password</source>
+        <translation>输入密码</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>密码</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,135 @@
+#include "GuiTest.h"
+
+#include <QPluginLoader>
+
+namespace {
+QtMessageHandler previousHandler = nullptr;
+QStringList allMessages;
+QStringList warnings;
+
+void recordMessage(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    allMessages << message;
+    if (type == QtWarningMsg || type == QtCriticalMsg)
+        warnings << message;
+    else
+        previousHandler(type, context, message);
+}
+} // namespace
+
+void prepareTestEnvironment()
+{
+    const auto setDefault = [](const char* name, const char* value) {
+        if (qEnvironmentVariableIsEmpty(name))
+            qputenv(name, value);
+    };
+    setDefault("QT_QPA_PLATFORM", "offscreen");
+    // The resolution to which the dialogs' fixed geometry belongs; the offscreen platform has another one.
+    setDefault("QT_FONT_DPI", "96");
+    qputenv("LANGUAGE", "en");
+}
+
+GuiTest::GuiTest()
+{
+    connect(&recorder, &EventReceiver::received, this, [this](const DialogEvent& event) { events << event; });
+}
+
+GuiInterface& GuiTest::gui()
+{
+    // Never unloaded: dialogs of a failed test may still be alive when the program ends.
+    static QPluginLoader loader(QStringLiteral(GUI_PLUGIN));
+    auto* root = qobject_cast<GuiInterface*>(loader.instance());
+    if (!root)
+        qFatal("%s", qPrintable(loader.errorString()));
+    return *root;
+}
+
+IBaseDialog* GuiTest::get(const QString& name, const QString& id)
+{
+    const Family& family = dialogFamily(name);
+    IBaseDialog* dialog = family.get(gui(), id);
+    // Returns false where the test got it before.
+    family.attach(gui(), &recorder, family.receiverSlot.constData(), id);
+    got.append({name, id});
+    return dialog;
+}
+
+void GuiTest::showActive(IBaseDialog* dialog)
+{
+    dialog->show();
+    window(dialog).activateWindow();
+    if (!QTest::qWaitForWindowActive(&window(dialog)))
+        qFatal("%s did not become active", qPrintable(window(dialog).objectName()));
+}
+
+QStringList GuiTest::takeEvents()
+{
+    QStringList names;
+    for (const DialogEvent& event : qAsConst(events))
+        names << dialogFamily(event.dialog).events.value(event.event, QString::number(event.event));
+    events.clear();
+    return names;
+}
+
+QWidget& GuiTest::window(IBaseDialog* dialog)
+{
+    return dynamic_cast<QWidget&>(*dialog);
+}
+
+void GuiTest::click(IBaseDialog* dialog, const char* button)
+{
+    QTest::mouseClick(&child(dialog, button), Qt::LeftButton);
+}
+
+void GuiTest::press(IBaseDialog* dialog, Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    QWidget& top = window(dialog);
+    QTest::keyClick(top.focusWidget() ? top.focusWidget() : &top, key, modifiers);
+}
+
+void GuiTest::expectWarning(const QString& pattern)
+{
+    expectedWarnings << QRegularExpression(pattern);
+}
+
+QStringList GuiTest::messages()
+{
+    return allMessages;
+}
+
+void GuiTest::settle()
+{
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::processEvents();
+}
+
+void GuiTest::initTestCase()
+{
+    gui();
+}
+
+void GuiTest::init()
+{
+    allMessages.clear();
+    warnings.clear();
+    expectedWarnings.clear();
+    previousHandler = qInstallMessageHandler(recordMessage);
+}
+
+void GuiTest::cleanup()
+{
+    for (const auto& dialog : qAsConst(got))
+        dialogFamily(dialog.first).remove(gui(), dialog.second);
+    got.clear();
+    gui().setRatio(1.0F);
+    settle();
+    events.clear();
+
+    qInstallMessageHandler(previousHandler);
+    for (const QRegularExpression& expected : qAsConst(expectedWarnings)) {
+        const QStringList matching = warnings.filter(expected);
+        QVERIFY2(!matching.isEmpty(), qPrintable(QStringLiteral("missing warning: ") + expected.pattern()));
+        warnings.removeOne(matching.first());
+    }
+    QVERIFY2(warnings.isEmpty(), qPrintable(QStringLiteral("unexpected: ") + warnings.join(QLatin1Char('\n'))));
+}

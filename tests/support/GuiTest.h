@@ -1,0 +1,111 @@
+#pragma once
+
+#include "DialogCatalogue.h"
+#include "EventReceiver.h"
+#include "GuiInterface.h"
+
+#include <QApplication>
+#include <QRegularExpression>
+#include <QTest>
+#include <QWidget>
+
+/// The base of all tests that drive the built plugin: loads it as a host does, records the events of every dialog got
+/// through it, takes all dialogs down after each test function, and fails the function during which an unexpected
+/// warning was written.
+class GuiTest : public QObject {
+    Q_OBJECT
+
+protected:
+    GuiTest();
+
+    /// The plugin's root object.
+    static GuiInterface& gui();
+
+    /// Gets the dialog of a family, attached to the recorder.
+    template <class Interface>
+    Interface* get(const QString& id = QString())
+    {
+        return dynamic_cast<Interface*>(get(familyName(static_cast<Interface*>(nullptr)), id));
+    }
+    IBaseDialog* get(const QString& family, const QString& id = QString());
+    /// Gets and shows a dialog and gives its window the focus.
+    template <class Interface>
+    Interface* show(const QString& id = QString())
+    {
+        auto* dialog = get<Interface>(id);
+        showActive(dialog);
+        return dialog;
+    }
+    static void showActive(IBaseDialog* dialog);
+
+    /// The names of the events received so far, as in the enumeration, and forgets them: {"evClose"}.
+    QStringList takeEvents();
+    /// All events received since the last takeEvents().
+    QVector<DialogEvent> events;
+
+    static QWidget& window(IBaseDialog* dialog);
+    /// The widget of that object name; a null reference never returns: the test is aborted.
+    template <class Widget = QWidget>
+    static Widget& child(IBaseDialog* dialog, const char* name)
+    {
+        QWidget& top = window(dialog);
+        auto* widget = top.findChild<Widget*>(QLatin1String(name));
+        if (!widget)
+            qFatal("%s has no such widget: %s", qPrintable(top.objectName()), name);
+        return *widget;
+    }
+    static void click(IBaseDialog* dialog, const char* button);
+    /// Sends a key to where a person's would go: the focused widget of the dialog.
+    static void press(IBaseDialog* dialog, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+
+    /// A warning that the next statements may write; every expected one must come.
+    void expectWarning(const QString& pattern);
+    /// Everything written through Qt's message functions during this test function.
+    static QStringList messages();
+
+    /// Lets scheduled deletions and zero-delay timers happen.
+    static void settle();
+
+protected Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+private:
+    template <class Interface>
+    static QString familyName(Interface*);
+
+    EventReceiver recorder;
+    QVector<QPair<QString, QString>> got;
+    QVector<QRegularExpression> expectedWarnings;
+};
+
+// clang-format off
+template <> inline QString GuiTest::familyName(IAboutDialog*) { return QStringLiteral("AboutDialog"); }
+template <> inline QString GuiTest::familyName(IAcceptMessageDialog*) { return QStringLiteral("AcceptMessageDialog"); }
+template <> inline QString GuiTest::familyName(IActivationDialog*) { return QStringLiteral("ActivationDialog"); }
+template <> inline QString GuiTest::familyName(IApproveRemoteConnectionDialog*) { return QStringLiteral("ApproveRemoteConnectionDialog"); }
+template <> inline QString GuiTest::familyName(IAuthorizationDialog*) { return QStringLiteral("AuthorizationDialog"); }
+template <> inline QString GuiTest::familyName(IEnterPasswordDialog*) { return QStringLiteral("EnterPasswordDialog"); }
+template <> inline QString GuiTest::familyName(IErrorMessageDialog*) { return QStringLiteral("ErrorMessageDialog"); }
+template <> inline QString GuiTest::familyName(IOptionDialog*) { return QStringLiteral("OptionDialog"); }
+template <> inline QString GuiTest::familyName(IProgressDialog*) { return QStringLiteral("ProgressDialog"); }
+template <> inline QString GuiTest::familyName(IRebootDialog*) { return QStringLiteral("RebootDialog"); }
+template <> inline QString GuiTest::familyName(IRemoteConnectionDialog*) { return QStringLiteral("RemoteConnectionDialog"); }
+template <> inline QString GuiTest::familyName(IServiceDeskTicketDialog*) { return QStringLiteral("ServiceDeskTicketDialog"); }
+template <> inline QString GuiTest::familyName(IZentPasswordDialog*) { return QStringLiteral("ZentPasswordDialog"); }
+// clang-format on
+
+/// What every test program starts with; see GUI_TEST_MAIN.
+void prepareTestEnvironment();
+
+/// main() of a test program: no window system needed, English, one font resolution on every machine.
+#define GUI_TEST_MAIN(TestClass)                                                                                       \
+    int main(int argc, char** argv)                                                                                    \
+    {                                                                                                                  \
+        prepareTestEnvironment();                                                                                      \
+        QApplication application(argc, argv);                                                                          \
+        QApplication::setQuitOnLastWindowClosed(false);                                                                \
+        TestClass test;                                                                                                \
+        return QTest::qExec(&test, argc, argv);                                                                        \
+    }
