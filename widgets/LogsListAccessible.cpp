@@ -99,20 +99,21 @@ class LogsListAccessible final : public QAccessibleWidget {
 public:
     explicit LogsListAccessible(LogsListView* listView) : QAccessibleWidget(listView, QAccessible::List), view(listView)
     {
-        resetConnection =
-            QObject::connect(view->model(), &QAbstractItemModel::modelReset, view, [this] { forgetRows(); });
     }
 
     int childCount() const override
     {
-        return view->model()->rowCount();
+        return view->model() ? view->model()->rowCount() : 0;
     }
 
     QAccessibleInterface* child(int row) const override
     {
-        const QModelIndex index = view->model()->index(row, 0);
-        if (!index.isValid())
+        if (row < 0 || row >= childCount())
             return nullptr;
+        // Rows go all at once or not at all.
+        if (!rows.isEmpty() && !rows.constBegin().key().isValid())
+            forgetRows();
+        const QModelIndex index = view->model()->index(row, 0);
         QAccessible::Id& id = rows[index];
         if (id == 0)
             id = QAccessible::registerAccessibleInterface(new RowAccessible(view, index));
@@ -137,7 +138,6 @@ public:
 private:
     ~LogsListAccessible() override
     {
-        QObject::disconnect(resetConnection);
         forgetRows();
     }
 
@@ -149,7 +149,6 @@ private:
     }
 
     LogsListView* const view;
-    QMetaObject::Connection resetConnection;
     /// The rows asked for so far. Rows move down as others are added, so their number cannot name them.
     mutable QHash<QPersistentModelIndex, QAccessible::Id> rows;
 };
