@@ -184,7 +184,8 @@ bool LogsListView::viewportEvent(QEvent* event)
     const auto* help = static_cast<QHelpEvent*>(event);
     const QModelIndex index = indexAt(help->pos());
     const QString path = index.data(Qt::ToolTipRole).toString().right(longestToolTip);
-    QToolTip::showText(help->globalPos(), literalToolTip(withVisibleControls(path)), viewport(), visualRect(index));
+    // Without a widget, as the tool tip would otherwise take its colours.
+    QToolTip::showText(help->globalPos(), literalToolTip(withVisibleControls(path)));
     return true;
 }
 
