@@ -48,13 +48,13 @@ QString path(int number)
         .arg(number);
 }
 
-/// One line as the session window shows it.
+/// One line as the session window shows it, where paths are elided.
 QString html(int number)
 {
     return QStringLiteral("<p><span style=\" font-size:14px; color:#a9adb3;\">2026-03-01 10:20:30 </span>"
                           "<span style=\" font-size:14px; color:#89C1FE;\">File uploaded </span>"
                           "<span style=\" font-size:14px; color:#f3f4f4;\">%1</span></p>")
-        .arg(path(number));
+        .arg(QChar(0x2026) + path(number).right(26));
 }
 
 /// Tells when a view has painted.
@@ -108,11 +108,11 @@ public:
     explicit Measurement(const Subject& measured) : subject(measured), watch(measured.view->viewport())
     {
         watch.finishTurn();
-        bytesAtStart = bytesInUse();
     }
 
     Result at(int size)
     {
+        const qint64 bytesBefore = bytesInUse();
         fill(size - measuredTurns * eventsPerTurn, std::max(eventsPerTurn, size / 50));
         Result result;
         double total = 0;
@@ -125,7 +125,8 @@ public:
             ++turns;
         }
         result.microsecondsPerEvent = total / (rows - first);
-        result.bytesPerRow = static_cast<double>(bytesInUse() - bytesAtStart) / rows;
+        bytes += bytesInUse() - bytesBefore;
+        result.bytesPerRow = static_cast<double>(bytes) / rows;
         result.microsecondsPerFrame = frame();
         return result;
     }
@@ -156,7 +157,7 @@ private:
         QElapsedTimer timer;
         timer.start();
         for (int i = 0; i < measuredFrames; ++i) {
-            bar->setValue(bar->value() + 3 * bar->singleStep() * (i < measuredFrames / 2 ? 1 : -1));
+            bar->setValue(bar->value() + 3 * bar->singleStep());
             watch.finishTurn();
         }
         const double duration = microseconds(timer) / measuredFrames;
@@ -168,7 +169,7 @@ private:
     const Subject& subject;
     PaintWatch watch;
     int rows = 0;
-    qint64 bytesAtStart = 0;
+    qint64 bytes = 0;
 };
 
 template <class View>

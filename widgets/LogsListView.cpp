@@ -29,6 +29,8 @@ LogsListView::LogsListView(QWidget* parent) : QListView(parent)
     setEditTriggers(NoEditTriggers);
     setVerticalScrollMode(ScrollPerPixel);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    // Scrolling then moves what is painted instead of painting it again.
+    viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
 QRect LogsListView::visualRect(const QModelIndex& index) const
@@ -193,6 +195,7 @@ void LogsListView::paintEvent(QPaintEvent* event)
 {
     executeDelayedItemsLayout();
     QPainter painter(viewport());
+    painter.fillRect(event->rect(), palette().base());
     QStyleOptionViewItem option = viewOptions();
     const QStyle::State state = option.state;
     const bool focused = hasFocus();
