@@ -3,12 +3,21 @@
 #include <QAbstractTextDocumentLayout>
 #include <QApplication>
 #include <QPainter>
+#include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <QTextLayout>
 
 namespace {
 // A few screens full.
 constexpr int keptDocuments = 200;
+
+/// Choosing the glyphs is most of the work; a document does it anew for every painting unless it is told otherwise.
+void keepGlyphs(const QTextDocument* document)
+{
+    for (QTextBlock block = document->begin(); block.isValid(); block = block.next())
+        block.layout()->setCacheEnabled(true);
+}
 
 QAbstractTextDocumentLayout::PaintContext paintContext(const QStyleOptionViewItem& option, QTextDocument* document)
 {
@@ -75,6 +84,7 @@ QTextDocument* RichTextDelegate::document(const QString& html, const QFont& font
         text = new QTextDocument;
         text->setDefaultFont(font);
         text->setHtml(html);
+        keepGlyphs(text);
         documents.insert(html, text);
     } else if (text->defaultFont() != font) {
         text->setDefaultFont(font);
