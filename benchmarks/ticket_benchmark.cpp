@@ -66,7 +66,8 @@ int main(int argc, char** argv)
         measure(*gui, out, QStringLiteral("lines"), line.repeated(megabyte / line.size()), limit);
         measure(*gui, out, QStringLiteral("one paragraph"), words.repeated(megabyte / words.size()), limit);
         measure(*gui, out, QStringLiteral("one word"), QString(megabyte, QLatin1Char('x')), limit);
-        measure(*gui, out, QStringLiteral("line breaks"), QString(megabyte, QLatin1Char('\n')), limit);
+        measure(*gui, out, QStringLiteral("short lines"),
+                QStringLiteral("twenty characters..\n").repeated(megabyte / 20), limit);
     }
     return 0;
 }
