@@ -1,10 +1,13 @@
 #include "LinkLabel.h"
 
-#include <QFocusEvent>
-
 void LinkLabel::focusInEvent(QFocusEvent* event)
 {
     QLabel::focusInEvent(event);
-    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason)
-        focusNextPrevChild(event->reason() == Qt::TabFocusReason);
+    if (!hasSelectedText())
+        QLabel::focusNextPrevChild(true);
+}
+
+bool LinkLabel::focusNextPrevChild(bool next)
+{
+    return QWidget::focusNextPrevChild(next); // NOLINT(bugprone-parent-virtual-call): not to the next link
 }

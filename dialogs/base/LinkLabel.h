@@ -2,8 +2,8 @@
 
 #include <QLabel>
 
-/// A label with a link that takes one Tab to reach and Return to follow. A plain QLabel takes the focus first and
-/// shows it on its link only after a second Tab.
+/// A label with one link, which has the focus when the label has it. In a plain QLabel the first press of Tab reaches
+/// the label only, so that Return goes to the dialog, and Shift+Tab never leaves the link.
 class LinkLabel : public QLabel {
     Q_OBJECT
 
@@ -12,4 +12,5 @@ public:
 
 protected:
     void focusInEvent(QFocusEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
 };
