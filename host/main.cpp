@@ -79,7 +79,7 @@ int main(int argc, char** argv)
     parser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("run or gallery"));
     parser.addPositionalArgument(QStringLiteral("target"), QStringLiteral("the script or the directory"));
     parser.addOptions({
-        {QStringLiteral("plugin"), QStringLiteral("The plugin; beside this program by default."),
+        {QStringLiteral("library"), QStringLiteral("The plugin; beside this program by default."),
          QStringLiteral("path"), QCoreApplication::applicationDirPath() + QStringLiteral("/Gui")},
         {QStringLiteral("language"), QStringLiteral("Two-letter language of the dialogs (not on Windows)."),
          QStringLiteral("code")},
@@ -100,7 +100,7 @@ int main(int argc, char** argv)
     // The plugin chooses its language when it is loaded.
     if (parser.isSet(QStringLiteral("language")))
         qputenv("LANGUAGE", parser.value(QStringLiteral("language")).toUtf8());
-    QPluginLoader loader(parser.value(QStringLiteral("plugin")));
+    QPluginLoader loader(parser.value(QStringLiteral("library")));
     auto* gui = qobject_cast<GuiInterface*>(loader.instance());
     if (!gui)
         return complain(loader.errorString(), Failure);

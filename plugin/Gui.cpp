@@ -1,7 +1,16 @@
 #include "Gui.h"
 
+#include "AboutDialog.h"
 #include "AcceptMessageDialog.h"
+#include "ActivationDialog.h"
+#include "AuthorizationDialog.h"
+#include "EnterPasswordDialog.h"
 #include "ErrorMessageDialog.h"
+#include "OptionDialog.h"
+#include "ProgressDialog.h"
+#include "RebootDialog.h"
+#include "ServiceDeskTicketDialog.h"
+#include "ZentPasswordDialog.h"
 #include "loadTranslation.h"
 
 #include <QCoreApplication>
@@ -157,27 +166,27 @@ void Gui::assignTranslations()
         return false;                                                                                                  \
     }
 
-MISSING_FAMILY(AboutDialog)
+DIALOG_FAMILY(AboutDialog)
 
-MISSING_FAMILY(ActivationDialog)
+DIALOG_FAMILY(ActivationDialog)
 
 DIALOG_FAMILY(AcceptMessageDialog)
 
 DIALOG_FAMILY(ErrorMessageDialog)
 
-MISSING_FAMILY(ProgressDialog)
+DIALOG_FAMILY(ProgressDialog)
 
-MISSING_FAMILY(AuthorizationDialog)
+DIALOG_FAMILY(AuthorizationDialog)
 
-MISSING_FAMILY(ZentPasswordDialog)
+DIALOG_FAMILY(ZentPasswordDialog)
 
-MISSING_FAMILY(OptionDialog)
+DIALOG_FAMILY(OptionDialog)
 
-MISSING_FAMILY(RebootDialog)
+DIALOG_FAMILY(RebootDialog)
 
-MISSING_FAMILY(EnterPasswordDialog)
+DIALOG_FAMILY(EnterPasswordDialog)
 
-MISSING_FAMILY(ServiceDeskTicketDialog)
+DIALOG_FAMILY(ServiceDeskTicketDialog)
 
 MISSING_FAMILY(RemoteConnectionDialog)
 

@@ -25,7 +25,10 @@ void readFile(BrandingStrings& strings, const QString& path)
         settings.setIniCodec("UTF-8");
 
     const auto read = [&settings](const char* key, QString& field) {
-        const QString value = settings.value(QLatin1String(key), QString()).toString();
+        QString value = settings.value(QLatin1String(key), QString()).toString();
+        // QSettings takes the bytes of a byte order mark before the first key for a part of that key.
+        if (value.isEmpty())
+            value = settings.value(QLatin1String("\xEF\xBB\xBF") + QLatin1String(key), QString()).toString();
         if (!value.isEmpty())
             field = value;
     };

@@ -1,0 +1,142 @@
+#include "AboutDialog.h"
+
+#include "BrandingStrings.h"
+#include "DisplayText.h"
+#include "ui_AboutDialog.h"
+
+namespace {
+/// A value that is too long for its line can be read in full as its tool tip.
+void setValue(QLabel* label, const QString& text)
+{
+    label->setText(text);
+    label->setToolTip(literalToolTip(text));
+}
+
+/// The last four characters of the compiler's date are the year.
+QString buildYear()
+{
+    return QString(QLatin1String(__DATE__).right(4));
+}
+
+QString linkTo(const QString& address)
+{
+    const QString escaped = address.toHtmlEscaped();
+    return QStringLiteral("<html><head/><body><p><a href=\"%1\"><span style=\" text-decoration: underline; "
+                          "color:#0000ff;\">%1</span></a></p></body></html>")
+        .arg(escaped);
+}
+} // namespace
+
+AboutDialog::AboutDialog(QWidget* parent) : BaseDialog(parent), ui(new Ui::AboutDialog)
+{
+    ui->setupUi(this);
+    setupWindow();
+    setCaption(ui->lblAppName, ui->lblType, tr("About"));
+    setCopyright(QStringLiteral(" %1 %2").arg(buildYear(), QStringLiteral("Brisel")));
+    showSupportContacts();
+
+    connect(ui->btnOk, &QPushButton::clicked, this, &AboutDialog::slClose);
+    connect(ui->btnClose, &QPushButton::clicked, this, &AboutDialog::slClose);
+    connect(ui->btnUpdateNow, &QPushButton::clicked, this, &AboutDialog::slButtonUpdateClick);
+    connect(ui->lblWebSiteLink, &QLabel::linkActivated, this, &AboutDialog::slLinkClick);
+
+    ui->btnOk->setFocus();
+}
+
+AboutDialog::~AboutDialog()
+{
+    qDebug("About dialog destroyed");
+}
+
+void AboutDialog::show()
+{
+    showNormal();
+    activateWindow();
+    raise();
+    BaseDialog::show();
+}
+
+QString AboutDialog::getVersion() const
+{
+    return ui->lblVersionNumber->text();
+}
+
+void AboutDialog::setVersion(const QString& version)
+{
+    setValue(ui->lblVersionNumber, version);
+}
+
+QString AboutDialog::getCopyright() const
+{
+    return ui->lblCopyright->text();
+}
+
+void AboutDialog::setCopyright(const QString& copyright)
+{
+    setValue(ui->lblCopyright, copyright);
+}
+
+QString AboutDialog::getServer() const
+{
+    return ui->cdm_server->text();
+}
+
+void AboutDialog::setServer(const QString& server)
+{
+    setValue(ui->cdm_server, server);
+}
+
+QString AboutDialog::getLastCommunicationTime() const
+{
+    return ui->last_communication_time->text();
+}
+
+void AboutDialog::setLastCommunicationTime(QString time)
+{
+    setValue(ui->last_communication_time, time);
+}
+
+void AboutDialog::setCopyrightVisible(bool visible)
+{
+    ui->lblAllRightsReserved->setVisible(visible);
+    ui->lblCopyright->setVisible(visible);
+}
+
+void AboutDialog::slLinkClick()
+{
+    Q_EMIT dialogEvent(this, evLinkClicked);
+}
+
+void AboutDialog::slButtonUpdateClick()
+{
+    Q_EMIT dialogEvent(this, evUpdateNow);
+}
+
+void AboutDialog::slClose()
+{
+    Q_EMIT dialogEvent(this, evClose);
+}
+
+void AboutDialog::accept()
+{
+    slClose();
+}
+
+void AboutDialog::reject()
+{
+    slClose();
+}
+
+void AboutDialog::showSupportContacts()
+{
+    const BrandingStrings& branding = brandingStrings();
+    setValue(ui->lblSupportPhone, branding.supportPhone);
+    setValue(ui->lblSupportEmail, branding.supportEmail);
+    ui->lblWebSiteLink->setText(linkTo(branding.supportWebsite));
+    ui->lblWebSiteLink->setToolTip(literalToolTip(branding.supportWebsite));
+
+    ui->supportEmailBlock->setVisible(!branding.supportEmail.isEmpty());
+    ui->supportPhoneBlock->setVisible(!branding.supportPhone.isEmpty());
+    if (branding.supportPhone.isEmpty())
+        ui->supportEmailBlock->move(ui->supportPhoneBlock->pos());
+}

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "BaseDialog.h"
+#include "IActivationDialog.h"
+
+#include <memory>
+
+QT_BEGIN_NAMESPACE
+class QLineEdit;
+namespace Ui {
+class ActivationDialog;
+}
+QT_END_NAMESPACE
+struct EnrollmentLink;
+
+class ActivationDialog final : public BaseDialog, public virtual IActivationDialog {
+    Q_OBJECT
+
+public:
+    /// A top-level window whatever @p parent is.
+    explicit ActivationDialog(QWidget* parent = nullptr);
+    ~ActivationDialog() override;
+
+    QString getServerUrl() const override;
+    void setServerUrl(const QString& url) override;
+    QString getToken() const override;
+    void setToken(const QString& token) override;
+
+Q_SIGNALS:
+    void dialogEvent(IActivationDialog* pSender, IActivationDialog::TEvent eventType);
+
+public Q_SLOTS:
+    void toggleStep();
+    void doEnableOk();
+    void goToRegistration();
+    void accept() override;
+    void reject() override;
+    void slClose();
+    void slActivate();
+    void slPasteEnrollDataFromClipboard();
+
+private:
+    /// Lets @p edit take an enrollment link for all fields, however the person gets it there.
+    void watchInsertions(QLineEdit* edit);
+    void takeInsertion(QLineEdit* edit, int start);
+    void fill(const EnrollmentLink& link);
+
+    const std::unique_ptr<Ui::ActivationDialog> ui;
+};

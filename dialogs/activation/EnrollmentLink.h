@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+/// What an enrollment link says: `https://<host>[:<port>]/<path that ends in the token>`.
+struct EnrollmentLink {
+    QString host;
+    /// In decimal; 443 when the link names none.
+    QString port;
+    /// 32 characters.
+    QString token;
+};
+
+/// The first enrollment link within @p text, if that is usable.
+std::optional<EnrollmentLink> findEnrollmentLink(const QString& text);

@@ -1,0 +1,152 @@
+#include "EnterPasswordDialog.h"
+
+#include "CredentialFields.h"
+#include "ui_EnterPasswordDialog.h"
+
+namespace {
+enum AccessMode {
+    AdministratorOnly = 0,
+    CustomPasswordOnly = 1,
+    EitherWay = 2,
+};
+} // namespace
+
+EnterPasswordDialog::EnterPasswordDialog(QWidget*) : ui(new Ui::EnterPasswordDialog)
+{
+    ui->setupUi(this);
+    setupWindow();
+    setCaption(ui->lblAppName, ui->lblType, tr("Enter password"));
+    keepNoHistory(ui->editAdministratorPassword);
+    keepNoHistory(ui->editZentPassword);
+
+    setAccessMode(EitherWay);
+    setCustomPasswordSelected(false);
+
+    connect(ui->buttonOk, &QPushButton::clicked, this, &EnterPasswordDialog::onOkClicked);
+    connect(ui->buttonCancel, &QPushButton::clicked, this, &EnterPasswordDialog::onCancelClicked);
+
+    setModal(true);
+}
+
+EnterPasswordDialog::~EnterPasswordDialog() = default;
+
+int EnterPasswordDialog::getAccessMode() const
+{
+    return accessMode;
+}
+
+void EnterPasswordDialog::setAccessMode(int mode)
+{
+    accessMode = mode;
+    applyAccessMode();
+}
+
+bool EnterPasswordDialog::isCustomPasswordSelected()
+{
+    applyAccessMode();
+    return !ui->radioButtonComputerAdministrator->isChecked();
+}
+
+void EnterPasswordDialog::setCustomPasswordSelected(bool selected)
+{
+    (selected ? ui->radioButtonZentModeAccess : ui->radioButtonComputerAdministrator)->setChecked(true);
+    applyAccessMode();
+}
+
+QString EnterPasswordDialog::getDomain() const
+{
+    return ui->editDomain->text();
+}
+
+void EnterPasswordDialog::setDomain(const QString& domain)
+{
+    ui->editDomain->setText(domain);
+}
+
+QString EnterPasswordDialog::getLogin() const
+{
+    return ui->editLogin->text();
+}
+
+void EnterPasswordDialog::setLogin(const QString& login)
+{
+    ui->editLogin->setText(login);
+}
+
+QString EnterPasswordDialog::getAdministratorPassword() const
+{
+    return ui->editAdministratorPassword->text();
+}
+
+void EnterPasswordDialog::setAdministratorPassword(const QString& password)
+{
+    ui->editAdministratorPassword->setText(password);
+}
+
+QString EnterPasswordDialog::getZentPassword() const
+{
+    return ui->editZentPassword->text();
+}
+
+void EnterPasswordDialog::setZentPassword(const QString& password)
+{
+    ui->editZentPassword->setText(password);
+}
+
+IAttachment* EnterPasswordDialog::getAttachment() const
+{
+    return attached.get();
+}
+
+void EnterPasswordDialog::setAttachment(std::unique_ptr<IAttachment>& attachment)
+{
+    // Released first: also the dialog's own object must survive being handed over.
+    IAttachment* next = attachment.release();
+    if (next != attached.get())
+        attached.reset(next);
+}
+
+void EnterPasswordDialog::onOkClicked()
+{
+    Q_EMIT dialogEvent(this, evOk);
+}
+
+void EnterPasswordDialog::onCancelClicked()
+{
+    Q_EMIT dialogEvent(this, evCancel);
+}
+
+void EnterPasswordDialog::onCloseClicked()
+{
+    Q_EMIT dialogEvent(this, evCloseClicked);
+}
+
+void EnterPasswordDialog::accept()
+{
+    onOkClicked();
+}
+
+void EnterPasswordDialog::showEvent(QShowEvent* event)
+{
+    // Which field is the first one to type into depends on what the host has set meanwhile.
+    (isCustomPasswordSelected() ? ui->editZentPassword : ui->editDomain)->setFocus();
+    BaseDialog::showEvent(event);
+}
+
+void EnterPasswordDialog::applyAccessMode()
+{
+    const bool administrator = accessMode == AdministratorOnly || accessMode == EitherWay;
+    const bool custom = accessMode == CustomPasswordOnly || accessMode == EitherWay;
+
+    // The checked one of two radio buttons cannot be unchecked; checking the other one moves the choice.
+    ui->radioButtonComputerAdministrator->setEnabled(administrator);
+    if (!administrator)
+        ui->radioButtonComputerAdministrator->setChecked(false);
+    ui->editDomain->setEnabled(administrator);
+    ui->editLogin->setEnabled(administrator);
+    ui->editAdministratorPassword->setEnabled(administrator);
+    ui->radioButtonZentModeAccess->setEnabled(custom);
+    if (accessMode != EitherWay)
+        ui->radioButtonZentModeAccess->setChecked(custom);
+    ui->editZentPassword->setEnabled(custom);
+}

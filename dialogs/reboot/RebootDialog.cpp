@@ -1,0 +1,121 @@
+#include "RebootDialog.h"
+
+#include "ui_RebootDialog.h"
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QImage>
+#include <QKeyEvent>
+#include <QScrollBar>
+#include <QTextDocument>
+
+namespace {
+/// A document that refers to pictures and style sheets in vain: showing a text must not open files or network shares.
+class InertDocument final : public QTextDocument {
+public:
+    using QTextDocument::QTextDocument;
+
+protected:
+    QVariant loadResource(int, const QUrl&) override
+    {
+        // An empty answer would make the picture's handler try the file itself.
+        QImage nothing(1, 1, QImage::Format_ARGB32_Premultiplied);
+        nothing.fill(Qt::transparent);
+        return nothing;
+    }
+};
+} // namespace
+
+RebootDialog::RebootDialog(QWidget* parent) : BaseDialog(parent), ui(new Ui::RebootDialog)
+{
+    setWindowFlag(Qt::WindowCloseButtonHint, false);
+    setWindowFlag(Qt::WindowStaysOnTopHint);
+    ui->setupUi(this);
+    moveToScreenCenter();
+    ui->lblAppName->setText(captionPrefix);
+
+    auto* document = new InertDocument(ui->rebootReasonLabel);
+    document->setUndoRedoEnabled(false);
+    document->setDefaultFont(ui->rebootReasonLabel->font());
+    ui->rebootReasonLabel->setDocument(document);
+    // The text takes no focus, so its scroll bar does: a long reason can be read to its end without a mouse.
+    QScrollBar* scrollBar = ui->rebootReasonLabel->verticalScrollBar();
+    scrollBar->setFocusPolicy(Qt::TabFocus);
+    scrollBar->setAccessibleName(ui->rebootReasonLabel->accessibleName());
+
+    ui->timeoutComboBox->setFocus(Qt::OtherFocusReason);
+    setModal(true);
+    connect(ui->rebootNowButton, &QPushButton::clicked, this, &RebootDialog::rebootNow);
+    connect(ui->postponeButton, &QPushButton::clicked, this, &RebootDialog::postponeReboot);
+}
+
+RebootDialog::~RebootDialog() = default;
+
+QString RebootDialog::getMessage() const
+{
+    return ui->rebootReasonLabel->toPlainText();
+}
+
+void RebootDialog::setMessage(const QString& text)
+{
+    ui->rebootReasonLabel->setText(text);
+}
+
+int RebootDialog::getPostponePeriod() const
+{
+    return qMax(ui->timeoutComboBox->currentIndex(), 0);
+}
+
+void RebootDialog::setPostponePeriod(int period)
+{
+    const bool known = period >= 0 && period < ui->timeoutComboBox->count();
+    ui->timeoutComboBox->setCurrentIndex(known ? period : 0);
+}
+
+bool RebootDialog::isShutdown() const
+{
+    return shutdownRequested;
+}
+
+void RebootDialog::setShutdown(bool shutdown)
+{
+    shutdownRequested = shutdown;
+    ui->rebootNowButton->setText(shutdown ? tr("Shutdown now") : tr("Reboot now"));
+}
+
+void RebootDialog::rebootNow()
+{
+    Q_EMIT dialogEvent(this, evRebootNow);
+}
+
+void RebootDialog::postponeReboot()
+{
+    Q_EMIT dialogEvent(this, evPostpone);
+}
+
+void RebootDialog::closed()
+{
+    Q_EMIT dialogEvent(this, evClosed);
+}
+
+void RebootDialog::showEvent(QShowEvent* event)
+{
+    // The reminder comes back in the middle of somebody's typing, and a Space on the button used last would restart.
+    ui->timeoutComboBox->setFocus(Qt::OtherFocusReason);
+    BaseDialog::showEvent(event);
+}
+
+void RebootDialog::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape || event->key() == Qt::Key_Cancel)
+        event->accept();
+    else
+        QDialog::keyPressEvent(event);
+}
+
+void RebootDialog::closeEvent(QCloseEvent* event)
+{
+    if (!qGuiApp->isSavingSession())
+        closed();
+    event->accept();
+}
