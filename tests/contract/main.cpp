@@ -10,6 +10,8 @@
 #include <QProcess>
 #include <QTextStream>
 
+#include <algorithm>
+
 namespace {
 /// Virtual functions in their order, enumerators and base classes, as the text of a header declares them.
 void describeHeader(QTextStream& out, const QString& path)
@@ -46,7 +48,7 @@ void describeHeader(QTextStream& out, const QString& path)
 void describePlugin(QTextStream& out, const QString& path)
 {
     const QJsonObject data = QPluginLoader(path).metaData();
-    out << "plugin\n";
+    out << "# What hosts rely on. Written by: cmake --build build/dev --target renew-contract\n\nplugin\n";
     for (const char* key : {"IID", "className"})
         out << "    " << key << ' ' << data.value(QLatin1String(key)).toString() << '\n';
     const QJsonDocument custom(data.value(QLatin1String("MetaData")).toObject());
@@ -91,19 +93,21 @@ void describeClass(QTextStream& out, const QMetaObject& metaObject)
     }
 }
 
-/// The library's own classes among the children are collected in @p classes.
+/// The named widgets below @p parent. The library's own classes among them are collected in @p classes.
 void describeChildren(QTextStream& out, const QObject& parent, const QString& indent,
                       QMap<QByteArray, const QMetaObject*>& classes)
 {
-    for (const QObject* child : parent.children()) {
+    // Raising a widget reorders the children, and what lies above what is nothing that hosts rely on.
+    QObjectList children = parent.children();
+    std::stable_sort(children.begin(), children.end(),
+                     [](const QObject* a, const QObject* b) { return a->objectName() < b->objectName(); });
+    for (const QObject* child : qAsConst(children)) {
         const QMetaObject& metaObject = *child->metaObject();
         const QString name = child->objectName();
-        const bool isOwn = isOwnClass(metaObject);
-        if (isOwn)
+        if (isOwnClass(metaObject))
             classes.insert(metaObject.className(), &metaObject);
-        const bool isNamed = child->isWidgetType() && !name.isEmpty() && !name.startsWith(QLatin1String("qt_"));
-        if (isNamed || isOwn)
-            out << QStringLiteral("%1%2 %3").arg(indent, QLatin1String(metaObject.className()), name) << '\n';
+        if (child->isWidgetType() && !name.isEmpty() && !name.startsWith(QLatin1String("qt_")))
+            out << indent << metaObject.className() << ' ' << name << '\n';
         describeChildren(out, *child, indent + QStringLiteral("    "), classes);
     }
 }
