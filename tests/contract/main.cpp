@@ -103,11 +103,13 @@ void describeChildren(QTextStream& out, const QObject& parent, const QString& in
                      [](const QObject* a, const QObject* b) { return a->objectName() < b->objectName(); });
     for (const QObject* child : qAsConst(children)) {
         const QMetaObject& metaObject = *child->metaObject();
-        const QString name = child->objectName();
-        if (isOwnClass(metaObject))
+        const bool isOwn = isOwnClass(metaObject);
+        if (isOwn)
             classes.insert(metaObject.className(), &metaObject);
-        if (child->isWidgetType() && !name.isEmpty() && !name.startsWith(QLatin1String("qt_")))
-            out << indent << metaObject.className() << ' ' << name << '\n';
+        const QString name = child->objectName();
+        const bool isNamed = !name.isEmpty() && !name.startsWith(QLatin1String("qt_"));
+        if (child->isWidgetType() && (isNamed || isOwn))
+            out << QStringLiteral("%1%2 %3\n").arg(indent, QLatin1String(metaObject.className()), name);
         describeChildren(out, *child, indent + QStringLiteral("    "), classes);
     }
 }
