@@ -1,0 +1,140 @@
+#include "GuiTest.h"
+#include "ScriptPlayer.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QSet>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+/// Renders every dialog in its gallery states and compares each with the stored picture.
+///
+/// Both are compared by the mean colours of small tiles: glyphs that another version of the font library draws a little
+/// differently hardly change a tile, a widget that moved, vanished or is covered changes many.
+class PicturesTest : public GuiTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void gallery_data();
+    void gallery();
+    void everyReferenceIsRendered();
+    void movedWidgetIsNoticed();
+
+private:
+    QSet<QString> rendered;
+};
+
+namespace {
+constexpr int tileSide = 8;
+constexpr int tolerance = 28; // of 255, in any channel of a tile's mean
+
+const QDir references(QStringLiteral(REFERENCE_PICTURES));
+
+QImage tiles(const QImage& picture)
+{
+    return picture.convertToFormat(QImage::Format_ARGB32_Premultiplied)
+        .scaled(qMax(1, picture.width() / tileSide), qMax(1, picture.height() / tileSide), Qt::IgnoreAspectRatio,
+                Qt::SmoothTransformation);
+}
+
+bool differ(QRgb first, QRgb second)
+{
+    const auto distant = [](int a, int b) { return qAbs(a - b) > tolerance; };
+    return distant(qRed(first), qRed(second)) || distant(qGreen(first), qGreen(second))
+        || distant(qBlue(first), qBlue(second)) || distant(qAlpha(first), qAlpha(second));
+}
+
+/// The tiles in which the pictures differ, marked on a copy of the first; null when there are none.
+QImage difference(const QImage& picture, const QImage& reference)
+{
+    if (picture.size() != reference.size())
+        return picture;
+    const QImage actual = tiles(picture);
+    const QImage expected = tiles(reference);
+    QImage marked;
+    for (int y = 0; y < actual.height(); ++y) {
+        for (int x = 0; x < actual.width(); ++x) {
+            if (!differ(actual.pixel(x, y), expected.pixel(x, y)))
+                continue;
+            if (marked.isNull())
+                marked = picture.convertToFormat(QImage::Format_ARGB32);
+            for (int i = 0; i < tileSide * tileSide; ++i) {
+                const QPoint position(x * tileSide + i % tileSide, y * tileSide + i / tileSide);
+                if (marked.rect().contains(position))
+                    marked.setPixel(position, qRgb(255, 0, 255));
+            }
+        }
+    }
+    return marked;
+}
+} // namespace
+
+void PicturesTest::gallery_data()
+{
+    QTest::addColumn<QString>("script");
+    const QDir scripts(QStringLiteral(GALLERY));
+    const QStringList names = scripts.entryList({QStringLiteral("*.jsonl")});
+    QCOMPARE(names.size(), dialogFamilies().size());
+    for (const QString& name : names)
+        QTest::newRow(qPrintable(name)) << scripts.filePath(name);
+}
+
+void PicturesTest::gallery()
+{
+    QFETCH(QString, script);
+    const QTemporaryDir directory;
+    ScriptPlayer player(gui(), ScriptPlayer::Mode::Unattended, QDir(directory.path()));
+    QSignalSpy finished(&player, &ScriptPlayer::finished);
+    QFile file(script);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    while (!file.atEnd())
+        player.addLine(file.readLine());
+    player.endInput();
+    QVERIFY(finished.wait(30000));
+    QCOMPARE(player.errorCount(), 0);
+
+    const QDir pictures(directory.path());
+    QStringList changed;
+    for (const QString& name : pictures.entryList({QStringLiteral("*.png")})) {
+        rendered << name;
+        const QImage picture(pictures.filePath(name));
+        if (qEnvironmentVariableIsSet("GUI_RENEW_PICTURES")) {
+            QVERIFY(picture.save(references.filePath(name)));
+            continue;
+        }
+        const QImage marked = difference(picture, QImage(references.filePath(name)));
+        if (marked.isNull())
+            continue;
+        const QString path = QDir::current().filePath(QStringLiteral("difference-") + name);
+        QVERIFY(marked.save(path));
+        changed << path;
+    }
+    QVERIFY2(changed.isEmpty(), qPrintable(QStringLiteral("look at ") + changed.join(QLatin1String(", "))));
+}
+
+void PicturesTest::everyReferenceIsRendered()
+{
+    for (const QString& name : references.entryList({QStringLiteral("*.png")}))
+        QVERIFY2(rendered.contains(name), qPrintable(QStringLiteral("no state is named ") + name));
+}
+
+void PicturesTest::movedWidgetIsNoticed()
+{
+    auto* dialog = get<IErrorMessageDialog>();
+    dialog->setMessage(QStringLiteral("The update could not be installed."));
+    const QImage before = window(dialog).grab().toImage();
+    QVERIFY(difference(before, before).isNull());
+
+    QWidget& cancel = child(dialog, "btnCancel");
+    cancel.move(cancel.pos() - QPoint(6, 0));
+    QVERIFY(!difference(window(dialog).grab().toImage(), before).isNull());
+    cancel.move(cancel.pos() + QPoint(6, 0));
+    QVERIFY(difference(window(dialog).grab().toImage(), before).isNull());
+
+    child(dialog, "lblMessage").hide();
+    QVERIFY(!difference(window(dialog).grab().toImage(), before).isNull());
+}
+
+GUI_TEST_MAIN(PicturesTest)
+#include "tst_pictures.moc"
