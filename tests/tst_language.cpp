@@ -125,8 +125,8 @@ Text titleText(QGroupBox* box)
     option.text = box->title();
     option.subControls = QStyle::SC_All;
     const QRect label = box->style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxLabel, box);
-    const QSize size(box->fontMetrics().horizontalAdvance(box->title()), label.height());
-    return {box, box->title(), QRect(label.topLeft(), size), box->rect().adjusted(0, 0, -10, 0)};
+    const QRect ink = inkOfLine(box->title(), box->font(), Qt::AlignLeft | Qt::AlignVCenter, label);
+    return {box, box->title(), ink, box->rect().adjusted(0, 0, -10, 0)};
 }
 
 QVector<Text> itemTexts(QComboBox* comboBox)
@@ -186,11 +186,11 @@ QVector<Text> textsOf(QWidget* widget)
     return {};
 }
 
-/// What no text of another widget may cover: of a label and a title what is drawn, of a control all of it.
+/// What no other text may cover: of a label and a title what is drawn, of a control all its room.
 QRect ownArea(const Text& text, const QWidget* dialog)
 {
     const bool isPassive = qobject_cast<QLabel*>(text.widget) || qobject_cast<QGroupBox*>(text.widget);
-    const QRect area = isPassive ? text.drawn & text.widget->rect() : text.widget->rect();
+    const QRect area = isPassive ? text.drawn & text.widget->rect() : text.room;
     return area.translated(text.widget->mapTo(dialog, QPoint(0, 0)));
 }
 
