@@ -29,6 +29,8 @@ LogsListView::LogsListView(QWidget* parent) : QListView(parent)
     setEditTriggers(NoEditTriggers);
     setVerticalScrollMode(ScrollPerPixel);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    // Scrolling then moves what is painted instead of painting it again.
+    viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
 QRect LogsListView::visualRect(const QModelIndex& index) const
@@ -184,7 +186,8 @@ bool LogsListView::viewportEvent(QEvent* event)
     const auto* help = static_cast<QHelpEvent*>(event);
     const QModelIndex index = indexAt(help->pos());
     const QString path = index.data(Qt::ToolTipRole).toString().right(longestToolTip);
-    QToolTip::showText(help->globalPos(), literalToolTip(withVisibleControls(path)), viewport(), visualRect(index));
+    // Without a widget, as the tool tip would otherwise take its colours.
+    QToolTip::showText(help->globalPos(), literalToolTip(withVisibleControls(path)));
     return true;
 }
 
@@ -192,6 +195,7 @@ void LogsListView::paintEvent(QPaintEvent* event)
 {
     executeDelayedItemsLayout();
     QPainter painter(viewport());
+    painter.fillRect(event->rect(), palette().base());
     QStyleOptionViewItem option = viewOptions();
     const QStyle::State state = option.state;
     const bool focused = hasFocus();

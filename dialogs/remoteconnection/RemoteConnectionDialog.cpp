@@ -151,8 +151,8 @@ bool RemoteConnectionDialog::isRemoteToolsPopupShown() const
 void RemoteConnectionDialog::addLogEvent(qint64 msecsSinceEpoch, const QString& category, const QString& action,
                                          const QString& path, const QString& status)
 {
-    logModel->addEntry(
-        {QDateTime::fromMSecsSinceEpoch(msecsSinceEpoch), logCategory(category), logActionText(action, status), path});
+    logModel->addEntry({QDateTime::fromMSecsSinceEpoch(msecsSinceEpoch, Qt::UTC), logCategory(category),
+                        logActionText(action, status), path});
 }
 
 const QString& RemoteConnectionDialog::remoteToolsSessionId() const
