@@ -23,6 +23,8 @@ AuthorizationDialog::AuthorizationDialog(QWidget*) : ui(new Ui::AuthorizationDia
 {
     ui->setupUi(this);
     setupWindow();
+    giveDescendersRoom(ui->label_2);
+    giveDescendersRoom(ui->label1);
     setCaption(ui->lblAppName, ui->lblType, tr("Login"));
     // Translators get the words alone.
     ui->lblWebLink->setText(reminderLink(ui->lblWebLink->text()));

@@ -1,5 +1,6 @@
 #include "CredentialFields.h"
 
+#include <QLabel>
 #include <QLineEdit>
 
 void showHintPicture(QLineEdit* edit, const QString& picture)
@@ -16,4 +17,9 @@ void keepNoHistory(QLineEdit* edit)
         edit->setText(text);
         edit->setCursorPosition(position);
     });
+}
+
+void giveDescendersRoom(QLabel* heading)
+{
+    heading->setContentsMargins(0, 0, 0, 2);
 }

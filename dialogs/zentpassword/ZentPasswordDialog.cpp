@@ -7,6 +7,8 @@ ZentPasswordDialog::ZentPasswordDialog(QWidget*) : ui(new Ui::ZentPasswordDialog
 {
     ui->setupUi(this);
     setupWindow();
+    giveDescendersRoom(ui->label_2);
+    giveDescendersRoom(ui->label1);
     setCaption(ui->lblAppName, ui->lblType, tr("Enter password"));
     ui->btnContinue->setEnabled(false);
     keepNoHistory(ui->edPassword);

@@ -615,7 +615,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Session suspended</source>
-        <translation>Session midlertidigt afbrudt</translation>
+        <translation>Session sat på pause</translation>
     </message>
     <message>
         <source>Session resumed</source>

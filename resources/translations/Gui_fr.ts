@@ -545,7 +545,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Upload aborted</source>
-        <translation>Chargement interrompu</translation>
+        <translation>Chargement arrêté</translation>
     </message>
     <message>
         <source>Upload cancelled</source>
@@ -557,7 +557,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Download aborted</source>
-        <translation>Téléchargement interrompu</translation>
+        <translation>Téléchargement arrêté</translation>
     </message>
     <message>
         <source>Download cancelled</source>

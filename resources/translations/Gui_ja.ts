@@ -538,7 +538,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>File uploaded</source>
-        <translation>ファイルをアップロードしました</translation>
+        <translation>ファイルのアップロード完了</translation>
     </message>
     <message>
         <source>Upload aborted</source>
@@ -546,11 +546,11 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Upload cancelled</source>
-        <translation>アップロードがキャンセルされました</translation>
+        <translation>アップロードをキャンセル済み</translation>
     </message>
     <message>
         <source>File downloaded</source>
-        <translation>ファイルをダウンロードしました</translation>
+        <translation>ファイルのダウンロード完了</translation>
     </message>
     <message>
         <source>Download aborted</source>
@@ -558,15 +558,15 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Download cancelled</source>
-        <translation>ダウンロードがキャンセルされました</translation>
+        <translation>ダウンロードをキャンセル済み</translation>
     </message>
     <message>
         <source>Folder uploaded</source>
-        <translation>フォルダーをアップロードしました</translation>
+        <translation>フォルダーのアップロード完了</translation>
     </message>
     <message>
         <source>Folder downloaded</source>
-        <translation>フォルダーをダウンロードしました</translation>
+        <translation>フォルダーのダウンロード完了</translation>
     </message>
     <message>
         <source>File deleted</source>

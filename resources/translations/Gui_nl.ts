@@ -576,7 +576,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>File renamed</source>
-        <translation>Naam van bestand gewijzigd</translation>
+        <translation>Bestand hernoemd</translation>
     </message>
     <message>
         <source>Folder deleted</source>
@@ -584,7 +584,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Folder renamed</source>
-        <translation>Naam van map gewijzigd</translation>
+        <translation>Map hernoemd</translation>
     </message>
     <message>
         <source>Folder created</source>

@@ -612,7 +612,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Service resumed</source>
-        <translation>Работа службы возобновлена</translation>
+        <translation>Служба возобновлена</translation>
     </message>
     <message>
         <source>Session suspended</source>

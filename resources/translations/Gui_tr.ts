@@ -542,11 +542,11 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Upload aborted</source>
-        <translation>Karşıya yükleme kesildi</translation>
+        <translation>Yükleme kesildi</translation>
     </message>
     <message>
         <source>Upload cancelled</source>
-        <translation>Karşıya yükleme iptal edildi</translation>
+        <translation>Yükleme iptal edildi</translation>
     </message>
     <message>
         <source>File downloaded</source>
