@@ -193,6 +193,7 @@ void ServiceDeskTicketDialog::setIssueDetailsMaxLength(int length)
 {
     // Longer text that is already there stays until the next edit, which brings it within the limit.
     issueDetailsMaxLength = length;
+    ui->txIssueDetails->setInsertionLimit(length);
     ui->txIssueDetails->setPlaceholderText(placeholder(length));
     updateSubmitButton();
 }
