@@ -37,6 +37,7 @@ QRect LogsListView::visualRect(const QModelIndex& index) const
 {
     if (!index.isValid() || index.model() != model())
         return QRect();
+    layOutNow();
     return {0, index.row() * rowHeight - verticalOffset(), viewport()->width(), rowHeight};
 }
 
@@ -48,7 +49,6 @@ QModelIndex LogsListView::indexAt(const QPoint& point) const
 
 void LogsListView::scrollTo(const QModelIndex& index, ScrollHint hint)
 {
-    executeDelayedItemsLayout();
     const QRect row = visualRect(index);
     const int room = viewport()->height() - rowHeight;
     if (row.isNull() || (hint == EnsureVisible && row.top() >= 0 && row.top() <= room))
@@ -193,7 +193,7 @@ bool LogsListView::viewportEvent(QEvent* event)
 
 void LogsListView::paintEvent(QPaintEvent* event)
 {
-    executeDelayedItemsLayout();
+    layOutNow();
     QPainter painter(viewport());
     painter.fillRect(event->rect(), palette().base());
     QStyleOptionViewItem option = viewOptions();
@@ -237,8 +237,15 @@ int LogsListView::rowsPerPage() const
     return rowHeight > 0 ? qMax(1, viewport()->height() / rowHeight) : 1;
 }
 
+void LogsListView::layOutNow() const
+{
+    // Asking where a row is finishes the layout that is due, as in every item view.
+    const_cast<LogsListView*>(this)->executeDelayedItemsLayout();
+}
+
 int LogsListView::rowAt(int y) const
 {
+    layOutNow();
     return rowHeight > 0 ? (y + verticalOffset()) / rowHeight : -1;
 }
 
