@@ -3,12 +3,14 @@
 #include "AboutDialog.h"
 #include "AcceptMessageDialog.h"
 #include "ActivationDialog.h"
+#include "ApproveRemoteConnectionDialog.h"
 #include "AuthorizationDialog.h"
 #include "EnterPasswordDialog.h"
 #include "ErrorMessageDialog.h"
 #include "OptionDialog.h"
 #include "ProgressDialog.h"
 #include "RebootDialog.h"
+#include "RemoteConnectionDialog.h"
 #include "ServiceDeskTicketDialog.h"
 #include "ZentPasswordDialog.h"
 #include "loadTranslation.h"
@@ -75,7 +77,11 @@ Dialog* Gui::get(const QString& id)
         return static_cast<Dialog*>(existing);
 
     auto* dialog = create<Dialog>();
-    assignStyleSheet(dialog);
+    if constexpr (std::is_same_v<Dialog, ApproveRemoteConnectionDialog>)
+        dialog->setConnectionId(id);
+    // The session window keeps its own look.
+    if constexpr (!std::is_same_v<Dialog, RemoteConnectionDialog>)
+        assignStyleSheet(dialog);
     dialog->setRatio(getRatio());
     store(registryKey<Dialog>(id), dialog);
     return dialog;
@@ -151,21 +157,6 @@ void Gui::assignTranslations()
         return attach<Dialog>(receiver, slot);                                                                         \
     }
 
-// A family whose dialog does not exist yet.
-#define MISSING_FAMILY(Dialog)                                                                                         \
-    I##Dialog* Gui::get##Dialog##Instance()                                                                            \
-    {                                                                                                                  \
-        return nullptr;                                                                                                \
-    }                                                                                                                  \
-    bool Gui::delete##Dialog##Instance()                                                                               \
-    {                                                                                                                  \
-        return false;                                                                                                  \
-    }                                                                                                                  \
-    bool Gui::attach##Dialog##EventHandler(const QObject*, const char*)                                                \
-    {                                                                                                                  \
-        return false;                                                                                                  \
-    }
-
 DIALOG_FAMILY(AboutDialog)
 
 DIALOG_FAMILY(ActivationDialog)
@@ -188,24 +179,30 @@ DIALOG_FAMILY(EnterPasswordDialog)
 
 DIALOG_FAMILY(ServiceDeskTicketDialog)
 
-MISSING_FAMILY(RemoteConnectionDialog)
+DIALOG_FAMILY(RemoteConnectionDialog)
 
-IApproveRemoteConnectionDialog* Gui::getApproveRemoteConnectionDialogInstance(const QString&)
+IApproveRemoteConnectionDialog* Gui::getApproveRemoteConnectionDialogInstance(const QString& id)
 {
-    return nullptr;
+    return get<ApproveRemoteConnectionDialog>(id);
 }
 
-bool Gui::deleteApproveRemoteConnectionDialogInstance(const QString&)
+bool Gui::deleteApproveRemoteConnectionDialogInstance(const QString& id)
 {
-    return false;
+    return remove<ApproveRemoteConnectionDialog>(id);
 }
 
 bool Gui::deleteAllApproveRemoteConnectionDialogInstances()
 {
-    return false;
+    const QString name = registryKey<ApproveRemoteConnectionDialog>(QString());
+    bool anyDeleted = false;
+    for (const QString& key : dialogs.keys()) {
+        if (key.contains(name, Qt::CaseInsensitive) && removeEntry(key))
+            anyDeleted = true;
+    }
+    return anyDeleted;
 }
 
-bool Gui::attachApproveRemoteConnectionDialogEventHandler(const QObject*, const char*, const QString&)
+bool Gui::attachApproveRemoteConnectionDialogEventHandler(const QObject* receiver, const char* slot, const QString& id)
 {
-    return false;
+    return attach<ApproveRemoteConnectionDialog>(receiver, slot, id);
 }

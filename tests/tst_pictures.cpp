@@ -12,8 +12,7 @@
 ///
 /// Both are compared by the mean colours of small tiles: glyphs that another version of the font library draws a little
 /// differently hardly change a tile, a widget that moved, vanished or is covered changes many.
-class PicturesTest : public GuiTest
-{
+class PicturesTest : public GuiTest {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -26,8 +25,7 @@ private:
     QSet<QString> rendered;
 };
 
-namespace
-{
+namespace {
 constexpr int tileSide = 8;
 constexpr int tolerance = 28; // of 255, in any channel of a tile's mean
 

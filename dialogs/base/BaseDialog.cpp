@@ -8,6 +8,7 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLayout>
 #include <QMouseEvent>
 #include <QScreen>
 
@@ -71,15 +72,12 @@ int BaseDialog::exec()
 
 void BaseDialog::setRatio(float ratio)
 {
-    if (!std::isfinite(ratio) || ratio <= 0.0F || ratio == 1.0F)
+    ratio = usableRatio(ratio);
+    if (ratio == 1.0F)
         return;
-    const int longest = qMax(width(), height());
-    if (longest > 0)
-        ratio = qMin(ratio, static_cast<float>(longestSide) / static_cast<float>(longest));
 
     const QList<QWidget*> children = findChildren<QWidget*>();
-    const float growth = ratio - 1.0F;
-    move(truncated(x() - width() * growth * 0.5F), truncated(y() - height() * growth * 0.5F));
+    move(topLeftAtRatio(ratio));
     resize(scaled(size(), ratio));
     for (QWidget* child : children) {
         child->resize(scaled(child->size(), ratio));
@@ -147,4 +145,33 @@ void BaseDialog::setTitle(const QString& title)
     const QString caption = captionPrefix + QLatin1Char(' ') + title;
     setToolTip(literalToolTip(caption));
     setWindowTitle(literalWindowTitle(caption));
+}
+
+float BaseDialog::usableRatio(float ratio) const
+{
+    if (!std::isfinite(ratio) || ratio <= 0.0F)
+        return 1.0F;
+    const int longest = qMax(width(), height());
+    return longest > 0 ? qMin(ratio, static_cast<float>(longestSide) / static_cast<float>(longest)) : ratio;
+}
+
+QPoint BaseDialog::topLeftAtRatio(float ratio) const
+{
+    const float growth = ratio - 1.0F;
+    return {truncated(x() - width() * growth * 0.5F), truncated(y() - height() * growth * 0.5F)};
+}
+
+void BaseDialog::scaleSizeLimits(QWidget* root, float ratio)
+{
+    QList<QWidget*> widgets = root->findChildren<QWidget*>();
+    widgets.append(root);
+    for (QWidget* widget : qAsConst(widgets)) {
+        const QSize maximum = widget->maximumSize();
+        widget->setMinimumSize(scaled(widget->minimumSize(), ratio));
+        widget->setMaximumSize(maximum.width() < QWIDGETSIZE_MAX ? truncated(maximum.width() * ratio) : QWIDGETSIZE_MAX,
+                               maximum.height() < QWIDGETSIZE_MAX ? truncated(maximum.height() * ratio)
+                                                                  : QWIDGETSIZE_MAX);
+        if (QLayout* layout = widget->layout())
+            layout->setContentsMargins(layout->contentsMargins() * ratio);
+    }
 }

@@ -1,5 +1,6 @@
 #include "DisplayText.h"
 
+#include <QFontMetrics>
 #include <QTextDocument>
 
 #include <algorithm>
@@ -14,6 +15,17 @@ bool isDeceptive(QChar character)
         || (code >= 0x202A && code <= 0x202E)           // embeddings and overrides,
         || (code >= 0x2066 && code <= 0x2069);          // isolates
 }
+
+// More characters than this never fit into a line on screen.
+constexpr int longestLine = 1024;
+
+QString cutForLine(const QString& text, Qt::TextElideMode mode)
+{
+    const QChar ellipsis(0x2026);
+    if (text.size() <= longestLine)
+        return text;
+    return mode == Qt::ElideLeft ? ellipsis + text.right(longestLine) : text.left(longestLine) + ellipsis;
+}
 } // namespace
 
 QString withVisibleControls(const QString& text)
@@ -21,6 +33,22 @@ QString withVisibleControls(const QString& text)
     QString visible = text;
     std::replace_if(visible.begin(), visible.end(), isDeceptive, QChar(QChar::ReplacementCharacter));
     return visible;
+}
+
+QString linesWithVisibleControls(const QString& text)
+{
+    QString visible = text;
+    visible.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    const auto isDeceptiveInLines = [](QChar character) {
+        return isDeceptive(character) && character != QLatin1Char('\n') && character != QLatin1Char('\t');
+    };
+    std::replace_if(visible.begin(), visible.end(), isDeceptiveInLines, QChar(QChar::ReplacementCharacter));
+    return visible;
+}
+
+QString elidedWithVisibleControls(const QString& text, const QFontMetrics& metrics, Qt::TextElideMode mode, int width)
+{
+    return metrics.elidedText(withVisibleControls(cutForLine(text, mode)), mode, width);
 }
 
 QString literalToolTip(const QString& text)

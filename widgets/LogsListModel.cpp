@@ -1,0 +1,80 @@
+#include "LogsListModel.h"
+
+#include "ActivityKeys.h"
+#include "DisplayText.h"
+
+#include <QFont>
+
+namespace {
+// An unknown action key is shown as it is, but nobody can read more of it than this in a row.
+constexpr int longestAction = 256;
+
+QString timeText(const LogEntry& entry)
+{
+    return entry.time.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+}
+
+QString plainText(const LogEntry& entry)
+{
+    return timeText(entry) + QLatin1Char(' ') + entry.actionText + QLatin1Char(' ') + entry.path;
+}
+} // namespace
+
+LogsListModel::LogsListModel(QObject* parent) : QAbstractListModel(parent), pathMetrics(QFont()) { }
+
+int LogsListModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(entries.size());
+}
+
+QVariant LogsListModel::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid() || index.row() >= rowCount())
+        return QVariant();
+    const LogEntry& entry = entries[static_cast<size_t>(index.row())];
+    switch (role) {
+    case Qt::DisplayRole:
+        return html(entry);
+    case Qt::ToolTipRole:
+        return entry.path;
+    case PlainTextRole:
+        return plainText(entry);
+    default:
+        return QVariant();
+    }
+}
+
+void LogsListModel::addEntry(const LogEntry& entry)
+{
+    beginInsertRows(QModelIndex(), 0, 0);
+    entries.push_front(entry);
+    endInsertRows();
+}
+
+void LogsListModel::addEmptyEntry()
+{
+    addEntry(LogEntry());
+}
+
+void LogsListModel::clear()
+{
+    beginResetModel();
+    entries.clear();
+    endResetModel();
+}
+
+void LogsListModel::setPathDisplay(const QFont& font, int width)
+{
+    pathMetrics = QFontMetrics(font);
+    pathWidth = width;
+}
+
+QString LogsListModel::html(const LogEntry& entry) const
+{
+    return QStringLiteral("<p><span style=\" font-size:14px; color:#a9adb3;\">%1 </span>"
+                          "<span style=\" font-size:14px; color:%3;\">%2 </span>"
+                          "<span style=\" font-size:14px; color:#f3f4f4;\">%4</span></p>")
+        .arg(timeText(entry), withVisibleControls(entry.actionText.left(longestAction)).toHtmlEscaped(),
+             logCategoryColor(entry.category),
+             elidedWithVisibleControls(entry.path, pathMetrics, Qt::ElideLeft, pathWidth).toHtmlEscaped());
+}

@@ -1,0 +1,262 @@
+#include "LogsListView.h"
+
+#include "DisplayText.h"
+#include "LogsListAccessible.h"
+#include "LogsListModel.h"
+
+#include <QAccessible>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QToolTip>
+
+#include <algorithm>
+
+namespace {
+// The longest path that Windows knows, for most file systems; nobody reads more in a tool tip.
+constexpr int longestToolTip = 260;
+} // namespace
+
+LogsListView::LogsListView(QWidget* parent) : QListView(parent)
+{
+    installLogsListAccessible();
+    setUniformItemSizes(true);
+    setSelectionMode(ExtendedSelection);
+    setEditTriggers(NoEditTriggers);
+    setVerticalScrollMode(ScrollPerPixel);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
+
+QRect LogsListView::visualRect(const QModelIndex& index) const
+{
+    if (!index.isValid() || index.model() != model())
+        return QRect();
+    return {0, index.row() * rowHeight - verticalOffset(), viewport()->width(), rowHeight};
+}
+
+QModelIndex LogsListView::indexAt(const QPoint& point) const
+{
+    const int row = rowAt(point.y());
+    return row >= 0 && row < rowCount() ? model()->index(row, 0) : QModelIndex();
+}
+
+void LogsListView::scrollTo(const QModelIndex& index, ScrollHint hint)
+{
+    executeDelayedItemsLayout();
+    const QRect row = visualRect(index);
+    const int room = viewport()->height() - rowHeight;
+    if (row.isNull() || (hint == EnsureVisible && row.top() >= 0 && row.top() <= room))
+        return;
+    int top = 0;
+    if (hint == PositionAtCenter)
+        top = room / 2;
+    else if (hint == PositionAtBottom || (hint == EnsureVisible && row.top() > room))
+        top = room;
+    verticalScrollBar()->setValue(verticalOffset() + row.top() - top);
+}
+
+void LogsListView::doItemsLayout()
+{
+    measureRow();
+    QAbstractItemView::doItemsLayout();
+}
+
+void LogsListView::reset()
+{
+    rowsAddedAbove = 0;
+    QListView::reset();
+}
+
+void LogsListView::keyboardSearch(const QString&) { }
+
+void LogsListView::rowsInserted(const QModelIndex& parent, int start, int end)
+{
+    QListView::rowsInserted(parent, start, end);
+    if (rowHeight > 0 && start <= verticalOffset() / rowHeight)
+        rowsAddedAbove += end - start + 1;
+}
+
+void LogsListView::updateGeometries()
+{
+    QScrollBar* const bar = verticalScrollBar();
+    const bool atNewest = bar->value() == 0;
+    bar->setSingleStep(rowHeight);
+    bar->setPageStep(viewport()->height());
+    bar->setRange(0, qMax(0, rowCount() * rowHeight - viewport()->height()));
+    if (!atNewest)
+        bar->setValue(bar->value() + rowsAddedAbove * rowHeight);
+    rowsAddedAbove = 0;
+    QAbstractItemView::updateGeometries();
+}
+
+int LogsListView::horizontalOffset() const
+{
+    return 0;
+}
+
+int LogsListView::verticalOffset() const
+{
+    return verticalScrollBar()->value();
+}
+
+void LogsListView::scrollContentsBy(int dx, int dy)
+{
+    scrollDirtyRegion(dx, dy);
+    viewport()->scroll(dx, dy);
+}
+
+QModelIndex LogsListView::moveCursor(CursorAction action, Qt::KeyboardModifiers)
+{
+    const int last = rowCount() - 1;
+    if (last < 0)
+        return QModelIndex();
+    const int current = currentIndex().row();
+    int row = current;
+    switch (action) {
+    case MoveHome:
+        row = 0;
+        break;
+    case MoveEnd:
+        row = last;
+        break;
+    case MovePageUp:
+        row -= rowsPerPage();
+        break;
+    case MovePageDown:
+        row += rowsPerPage();
+        break;
+    case MoveUp:
+    case MoveLeft:
+    case MovePrevious:
+        --row;
+        break;
+    case MoveDown:
+    case MoveRight:
+    case MoveNext:
+        ++row;
+        break;
+    }
+    return model()->index(qBound(0, row, last), 0);
+}
+
+void LogsListView::setSelection(const QRect& rect, QItemSelectionModel::SelectionFlags command)
+{
+    const int first = qMax(0, rowAt(rect.top()));
+    const int last = qMin(rowAt(rect.bottom()), rowCount() - 1);
+    QItemSelection selection;
+    if (first <= last)
+        selection.select(model()->index(first, 0), model()->index(last, 0));
+    selectionModel()->select(selection, command);
+}
+
+QRegion LogsListView::visualRegionForSelection(const QItemSelection& selection) const
+{
+    QRegion region;
+    for (const QItemSelectionRange& range : selection)
+        region += visualRect(range.topLeft()) | visualRect(range.bottomRight());
+    return region & viewport()->rect();
+}
+
+void LogsListView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)
+{
+    QAbstractItemView::selectionChanged(selected, deselected);
+}
+
+void LogsListView::currentChanged(const QModelIndex& current, const QModelIndex& previous)
+{
+    QAbstractItemView::currentChanged(current, previous);
+    if (QAccessible::isActive() && current.isValid()) {
+        QAccessibleEvent event(this, QAccessible::Focus);
+        event.setChild(current.row());
+        QAccessible::updateAccessibility(&event);
+    }
+}
+
+bool LogsListView::viewportEvent(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QListView::viewportEvent(event);
+    // The role gives the path as it came; here it is shown, and must not be taken for markup.
+    const auto* help = static_cast<QHelpEvent*>(event);
+    const QModelIndex index = indexAt(help->pos());
+    const QString path = index.data(Qt::ToolTipRole).toString().right(longestToolTip);
+    QToolTip::showText(help->globalPos(), literalToolTip(withVisibleControls(path)), viewport(), visualRect(index));
+    return true;
+}
+
+void LogsListView::paintEvent(QPaintEvent* event)
+{
+    executeDelayedItemsLayout();
+    QPainter painter(viewport());
+    QStyleOptionViewItem option = viewOptions();
+    const QStyle::State state = option.state;
+    const bool focused = hasFocus();
+    const int last = qMin(rowAt(event->rect().bottom()), rowCount() - 1);
+    for (int row = rowAt(event->rect().top()); row <= last; ++row) {
+        const QModelIndex index = model()->index(row, 0);
+        option.rect = visualRect(index);
+        option.state = state;
+        option.state.setFlag(QStyle::State_Selected, selectionModel()->isSelected(index));
+        option.state.setFlag(QStyle::State_HasFocus, focused && index == currentIndex());
+        itemDelegate()->paint(&painter, option, index);
+    }
+}
+
+void LogsListView::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        rowHeight = 0;
+        scheduleDelayedItemsLayout();
+    }
+    QListView::changeEvent(event);
+}
+
+void LogsListView::keyPressEvent(QKeyEvent* event)
+{
+    if (event->matches(QKeySequence::Copy))
+        copySelectedRows();
+    else
+        QListView::keyPressEvent(event);
+}
+
+int LogsListView::rowCount() const
+{
+    return model() ? model()->rowCount() : 0;
+}
+
+int LogsListView::rowsPerPage() const
+{
+    return rowHeight > 0 ? qMax(1, viewport()->height() / rowHeight) : 1;
+}
+
+int LogsListView::rowAt(int y) const
+{
+    return rowHeight > 0 ? (y + verticalOffset()) / rowHeight : -1;
+}
+
+void LogsListView::measureRow()
+{
+    if (rowHeight > 0 || rowCount() == 0)
+        return;
+    QStyleOptionViewItem option = viewOptions();
+    // So wide that not even the longest row would wrap.
+    option.rect = QRect(0, 0, QWIDGETSIZE_MAX, 0);
+    rowHeight = qMax(1, itemDelegate()->sizeHint(option, model()->index(0, 0)).height());
+}
+
+void LogsListView::copySelectedRows() const
+{
+    QModelIndexList rows = selectionModel()->selectedIndexes();
+    if (rows.isEmpty())
+        return;
+    std::sort(rows.begin(), rows.end());
+    QStringList lines;
+    lines.reserve(rows.size());
+    for (const QModelIndex& row : qAsConst(rows))
+        lines.append(row.data(LogsListModel::PlainTextRole).toString());
+    QGuiApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
+}

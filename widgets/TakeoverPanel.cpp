@@ -1,0 +1,108 @@
+#include "TakeoverPanel.h"
+
+#include "DisplayText.h"
+#include "ElapsedTime.h"
+
+#include <QAtomicInt>
+#include <QCoreApplication>
+#include <QFile>
+#include <QFontMetrics>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QUiLoader>
+
+namespace {
+QAtomicInt panelCounter;
+
+// The strip speaks in the words of the window it stands in.
+QString text(const char* source)
+{
+    return QCoreApplication::translate("RemoteConnectionDialog", source);
+}
+} // namespace
+
+TakeoverPanel::TakeoverPanel(QWidget* parent) : QFrame(parent)
+{
+    loadForm();
+    const QString title = text(QT_TRANSLATE_NOOP("RemoteConnectionDialog", "Remote Control Session"));
+    const int number = ++panelCounter;
+    sessionTypeLabel->setText(title + QLatin1String(" #") + QString::number(number));
+    username->setText(text(QT_TRANSLATE_NOOP("RemoteConnectionDialog", "Username")));
+    timeElapsed->setText(text(QT_TRANSLATE_NOOP("RemoteConnectionDialog", "00:00:00")));
+    btnEndRemoteControlSession->setText(text(QT_TRANSLATE_NOOP("RemoteConnectionDialog", "End session")));
+    btnCloseRemoteControlPopup->setText(text(QT_TRANSLATE_NOOP("RemoteConnectionDialog", "Close")));
+
+    connect(btnEndRemoteControlSession, &QPushButton::clicked, this, [this] { Q_EMIT endRemoteControlSession(); });
+    connect(btnCloseRemoteControlPopup, &QPushButton::clicked, this, [this] { Q_EMIT closeRemoteControlPopup(); });
+}
+
+void TakeoverPanel::setStartTime(const QDateTime& time, bool force)
+{
+    if (force || startTime.isNull() || time <= startTime)
+        startTime = time;
+}
+
+void TakeoverPanel::setUsername(const QString& name)
+{
+    showUserName(username, name);
+}
+
+void TakeoverPanel::updateElapsedTime()
+{
+    const qint64 elapsed = startTime.msecsTo(QDateTime::currentDateTimeUtc());
+    if (elapsed > 0)
+        timeElapsed->setText(elapsedTimeText(elapsed));
+}
+
+void TakeoverPanel::setCloseButtonVisible(bool visible)
+{
+    btnCloseRemoteControlPopup->setVisible(visible);
+}
+
+void TakeoverPanel::setEndButtonVisible(bool visible)
+{
+    btnEndRemoteControlSession->setVisible(visible);
+}
+
+bool TakeoverPanel::isRunning() const
+{
+    return !startTime.isNull();
+}
+
+void TakeoverPanel::resetSessionCounter()
+{
+    panelCounter.storeRelease(0);
+}
+
+void TakeoverPanel::loadForm()
+{
+    QFile file(QStringLiteral(":/widgets/takeoverpanel.ui"));
+    file.open(QIODevice::ReadOnly);
+    QWidget* const form = QUiLoader().load(&file, this);
+
+    setSizePolicy(form->sizePolicy());
+    setMinimumSize(form->minimumSize());
+    setMaximumSize(form->maximumSize());
+    setFrameShape(NoFrame);
+    auto* layout = new QHBoxLayout(this);
+    layout->setSpacing(0);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(form);
+
+    sessionTypeLabel = findChild<QLabel*>(QStringLiteral("sessionTypeLabel"));
+    username = findChild<QLabel*>(QStringLiteral("username"));
+    timeElapsed = findChild<QLabel*>(QStringLiteral("timeElapsed"));
+    btnCloseRemoteControlPopup = findChild<QPushButton*>(QStringLiteral("btnCloseRemoteControlPopup"));
+    btnEndRemoteControlSession = findChild<QPushButton*>(QStringLiteral("btnEndRemoteControlSession"));
+}
+
+void showUserName(QLabel* label, const QString& name)
+{
+    label->ensurePolished();
+    const int width = label->maximumWidth();
+    const QString elided = elidedWithVisibleControls(name, label->fontMetrics(), Qt::ElideRight, width);
+    const QString full = withVisibleControls(name);
+    label->setText(elided);
+    label->setToolTip(elided == full ? QString() : literalToolTip(full));
+}

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QDateTime>
+#include <QFrame>
+
+QT_BEGIN_NAMESPACE
+class QLabel;
+class QPushButton;
+QT_END_NAMESPACE
+
+/// The strip in the session status window that stands for one remote-control session: its number, who is connected,
+/// for how long, and a button to end it or one to close the strip.
+class TakeoverPanel final : public QFrame {
+    Q_OBJECT
+
+public:
+    explicit TakeoverPanel(QWidget* parent = nullptr);
+
+    /// Without @p force the earliest start wins. A null time with @p force stops the clock.
+    void setStartTime(const QDateTime& time, bool force);
+    void setUsername(const QString& name);
+    void updateElapsedTime();
+    void setCloseButtonVisible(bool visible);
+    void setEndButtonVisible(bool visible);
+
+    /// Whether a start time is set.
+    bool isRunning() const;
+
+    /// The next panel is number 1 again.
+    static void resetSessionCounter();
+
+Q_SIGNALS:
+    void endRemoteControlSession();
+    void closeRemoteControlPopup();
+
+private:
+    Q_DISABLE_COPY(TakeoverPanel)
+
+    void loadForm();
+
+    QLabel* sessionTypeLabel = nullptr;
+    QLabel* username = nullptr;
+    QLabel* timeElapsed = nullptr;
+    QPushButton* btnCloseRemoteControlPopup = nullptr;
+    QPushButton* btnEndRemoteControlSession = nullptr;
+    QDateTime startTime;
+};
+
+/// Shows a remote person's name in @p label, elided to its maximum width; the full name is then the tool tip.
+void showUserName(QLabel* label, const QString& name);
