@@ -10,6 +10,9 @@
 #include <QTextDocument>
 
 namespace {
+// Qt takes quadratic time for nested markup, and a reason that people read is far shorter than this.
+constexpr int longestRichText = 1 << 15;
+
 /// A document that refers to pictures and style sheets in vain: showing a text must not open files or network shares.
 class InertDocument final : public QTextDocument {
 public:
@@ -58,7 +61,10 @@ QString RebootDialog::getMessage() const
 
 void RebootDialog::setMessage(const QString& text)
 {
-    ui->rebootReasonLabel->setText(text);
+    if (text.size() > longestRichText)
+        ui->rebootReasonLabel->setPlainText(text);
+    else
+        ui->rebootReasonLabel->setText(text);
 }
 
 int RebootDialog::getPostponePeriod() const

@@ -9,6 +9,9 @@ QStringList warnings;
 
 void recordMessage(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
+    // The offscreen platform says so of raising windows and the like.
+    if (message.startsWith(QLatin1String("This plugin does not support ")))
+        return;
     allMessages << message;
     if (type == QtWarningMsg || type == QtCriticalMsg)
         warnings << message;
