@@ -11,7 +11,7 @@ constexpr int longestAction = 256;
 
 QString timeText(const LogEntry& entry)
 {
-    return entry.time.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+    return entry.time.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
 }
 
 QString plainText(const LogEntry& entry)

@@ -8,6 +8,7 @@
 
 /// One line of the activity log.
 struct LogEntry {
+    /// In UTC; only rows that are shown are worth the conversion to local time.
     QDateTime time;
     int category = 0;
     QString actionText;

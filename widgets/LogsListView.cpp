@@ -29,12 +29,15 @@ LogsListView::LogsListView(QWidget* parent) : QListView(parent)
     setEditTriggers(NoEditTriggers);
     setVerticalScrollMode(ScrollPerPixel);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    // Scrolling then moves what is painted instead of painting it again.
+    viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
 QRect LogsListView::visualRect(const QModelIndex& index) const
 {
     if (!index.isValid() || index.model() != model())
         return QRect();
+    layOutNow();
     return {0, index.row() * rowHeight - verticalOffset(), viewport()->width(), rowHeight};
 }
 
@@ -46,7 +49,6 @@ QModelIndex LogsListView::indexAt(const QPoint& point) const
 
 void LogsListView::scrollTo(const QModelIndex& index, ScrollHint hint)
 {
-    executeDelayedItemsLayout();
     const QRect row = visualRect(index);
     const int room = viewport()->height() - rowHeight;
     if (row.isNull() || (hint == EnsureVisible && row.top() >= 0 && row.top() <= room))
@@ -184,14 +186,16 @@ bool LogsListView::viewportEvent(QEvent* event)
     const auto* help = static_cast<QHelpEvent*>(event);
     const QModelIndex index = indexAt(help->pos());
     const QString path = index.data(Qt::ToolTipRole).toString().right(longestToolTip);
-    QToolTip::showText(help->globalPos(), literalToolTip(withVisibleControls(path)), viewport(), visualRect(index));
+    // Without a widget, as the tool tip would otherwise take its colours.
+    QToolTip::showText(help->globalPos(), literalToolTip(withVisibleControls(path)));
     return true;
 }
 
 void LogsListView::paintEvent(QPaintEvent* event)
 {
-    executeDelayedItemsLayout();
+    layOutNow();
     QPainter painter(viewport());
+    painter.fillRect(event->rect(), palette().base());
     QStyleOptionViewItem option = viewOptions();
     const QStyle::State state = option.state;
     const bool focused = hasFocus();
@@ -233,8 +237,15 @@ int LogsListView::rowsPerPage() const
     return rowHeight > 0 ? qMax(1, viewport()->height() / rowHeight) : 1;
 }
 
+void LogsListView::layOutNow() const
+{
+    // Asking where a row is finishes the layout that is due, as in every item view.
+    const_cast<LogsListView*>(this)->executeDelayedItemsLayout();
+}
+
 int LogsListView::rowAt(int y) const
 {
+    layOutNow();
     return rowHeight > 0 ? (y + verticalOffset()) / rowHeight : -1;
 }
 

@@ -42,6 +42,7 @@ private:
 
     int rowCount() const;
     int rowsPerPage() const;
+    void layOutNow() const;
     /// The row at a height of the viewport, which may be a row that does not exist.
     int rowAt(int y) const;
     void measureRow();

@@ -8,12 +8,28 @@
 #include <QFile>
 #include <QFontMetrics>
 #include <QHBoxLayout>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QToolTip>
 #include <QUiLoader>
 
 namespace {
 QAtomicInt panelCounter;
+
+/// Shows a label's tool tip in the desktop's colours: with the label's own style sheet it would be grey on white.
+class UnstyledToolTip final : public QObject {
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() != QEvent::ToolTip)
+            return QObject::eventFilter(watched, event);
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), static_cast<QWidget*>(watched)->toolTip());
+        return true;
+    }
+};
 
 // The strip speaks in the words of the window it stands in.
 QString text(const char* source)
@@ -89,6 +105,9 @@ void TakeoverPanel::loadForm()
     layout->setSpacing(0);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(form);
+    // What the buttons' own style sheets leave open.
+    setStyleSheet(QStringLiteral("QPushButton:focus { text-decoration: underline; }"
+                                 "#separator { background-color: #484a51; }"));
 
     sessionTypeLabel = findChild<QLabel*>(QStringLiteral("sessionTypeLabel"));
     username = findChild<QLabel*>(QStringLiteral("username"));
@@ -99,6 +118,8 @@ void TakeoverPanel::loadForm()
 
 void showUserName(QLabel* label, const QString& name)
 {
+    static UnstyledToolTip unstyledToolTip;
+    label->installEventFilter(&unstyledToolTip);
     label->ensurePolished();
     const int width = label->maximumWidth();
     const QString elided = elidedWithVisibleControls(name, label->fontMetrics(), Qt::ElideRight, width);

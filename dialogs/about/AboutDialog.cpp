@@ -5,6 +5,9 @@
 #include "ui_AboutDialog.h"
 
 namespace {
+/// From one row of the form to the next.
+constexpr int rowHeight = 24;
+
 /// A value that is too long for its line can be read in full as its tool tip.
 void setValue(QLabel* label, const QString& text)
 {
@@ -30,10 +33,10 @@ QString linkTo(const QString& address)
 AboutDialog::AboutDialog(QWidget* parent) : BaseDialog(parent), ui(new Ui::AboutDialog)
 {
     ui->setupUi(this);
-    setupWindow();
-    setCaption(ui->lblAppName, ui->lblType, tr("About"));
     setCopyright(QStringLiteral(" %1 %2").arg(buildYear(), QStringLiteral("Brisel")));
     showSupportContacts();
+    setupWindow();
+    setCaption(ui->lblAppName, ui->lblType, tr("About"));
 
     connect(ui->btnOk, &QPushButton::clicked, this, &AboutDialog::slClose);
     connect(ui->btnClose, &QPushButton::clicked, this, &AboutDialog::slClose);
@@ -135,8 +138,21 @@ void AboutDialog::showSupportContacts()
     ui->lblWebSiteLink->setText(linkTo(branding.supportWebsite));
     ui->lblWebSiteLink->setToolTip(literalToolTip(branding.supportWebsite));
 
-    ui->supportEmailBlock->setVisible(!branding.supportEmail.isEmpty());
-    ui->supportPhoneBlock->setVisible(!branding.supportPhone.isEmpty());
     if (branding.supportPhone.isEmpty())
-        ui->supportEmailBlock->move(ui->supportPhoneBlock->pos());
+        removeRow(ui->supportPhoneBlock);
+    if (branding.supportEmail.isEmpty())
+        removeRow(ui->supportEmailBlock);
+}
+
+void AboutDialog::removeRow(QWidget* row)
+{
+    row->hide();
+    const QList<QWidget*> widgets = findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    for (QWidget* widget : widgets) {
+        if (widget->y() > row->y())
+            widget->move(widget->x(), widget->y() - rowHeight);
+    }
+    for (QWidget* frame :
+         {static_cast<QWidget*>(ui->content), static_cast<QWidget*>(ui->background), static_cast<QWidget*>(this)})
+        frame->resize(frame->width(), frame->height() - rowHeight);
 }

@@ -42,6 +42,8 @@ public Q_SLOTS:
 
 private:
     void showSupportContacts();
+    /// Hides @p row and closes the gap that it would leave.
+    void removeRow(QWidget* row);
 
     const std::unique_ptr<Ui::AboutDialog> ui;
 };

@@ -1,6 +1,6 @@
 #include "AuthorizationDialog.h"
 
-#include "CredentialFields.h"
+#include "HintPicture.h"
 #include "ui_AuthorizationDialog.h"
 
 namespace {
@@ -19,7 +19,7 @@ QString reminderLink(const QString& text)
 }
 } // namespace
 
-AuthorizationDialog::AuthorizationDialog(QWidget*) : ui(new Ui::AuthorizationDialog)
+AuthorizationDialog::AuthorizationDialog(QWidget* parent) : BaseDialog(parent), ui(new Ui::AuthorizationDialog)
 {
     ui->setupUi(this);
     setupWindow();
@@ -27,7 +27,6 @@ AuthorizationDialog::AuthorizationDialog(QWidget*) : ui(new Ui::AuthorizationDia
     // Translators get the words alone.
     ui->lblWebLink->setText(reminderLink(ui->lblWebLink->text()));
     ui->btnLogin->setEnabled(false);
-    keepNoHistory(ui->edPassword);
 
     connect(ui->edEmail, &QLineEdit::textChanged, this, &AuthorizationDialog::doEnableOk);
     connect(ui->edPassword, &QLineEdit::textChanged, this, &AuthorizationDialog::doEnableOk);

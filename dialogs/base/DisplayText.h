@@ -4,6 +4,8 @@
 
 QT_BEGIN_NAMESPACE
 class QFontMetrics;
+class QPlainTextEdit;
+class QTextEdit;
 QT_END_NAMESPACE
 
 // Text that comes from outside is data. These functions make it appear as what it is, on screen only: what an
@@ -24,3 +26,7 @@ QString literalToolTip(const QString& text);
 
 /// @p text as a window title that shows it literally, also when it contains Qt's mark for unsaved changes.
 QString literalWindowTitle(const QString& text);
+
+/// Shows @p text in @p edit, in a time that grows with its length even when it is one endless word.
+void showPlainText(QTextEdit* edit, const QString& text);
+void showPlainText(QPlainTextEdit* edit, const QString& text);

@@ -1,5 +1,6 @@
 #include "RebootDialog.h"
 
+#include "DisplayText.h"
 #include "ui_RebootDialog.h"
 
 #include <QCloseEvent>
@@ -11,7 +12,7 @@
 
 namespace {
 // Qt takes quadratic time for nested markup, and a reason that people read is far shorter than this.
-constexpr int longestRichText = 1 << 15;
+constexpr int longestRichText = 1 << 14;
 
 /// A document that refers to pictures and style sheets in vain: showing a text must not open files or network shares.
 class InertDocument final : public QTextDocument {
@@ -61,9 +62,9 @@ QString RebootDialog::getMessage() const
 
 void RebootDialog::setMessage(const QString& text)
 {
-    if (text.size() > longestRichText)
-        ui->rebootReasonLabel->setPlainText(text);
-    else
+    const bool canBeRich = text.size() <= longestRichText;
+    showPlainText(ui->rebootReasonLabel, canBeRich ? QString() : text);
+    if (canBeRich)
         ui->rebootReasonLabel->setText(text);
 }
 

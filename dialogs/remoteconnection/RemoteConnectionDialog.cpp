@@ -151,8 +151,8 @@ bool RemoteConnectionDialog::isRemoteToolsPopupShown() const
 void RemoteConnectionDialog::addLogEvent(qint64 msecsSinceEpoch, const QString& category, const QString& action,
                                          const QString& path, const QString& status)
 {
-    logModel->addEntry(
-        {QDateTime::fromMSecsSinceEpoch(msecsSinceEpoch), logCategory(category), logActionText(action, status), path});
+    logModel->addEntry({QDateTime::fromMSecsSinceEpoch(msecsSinceEpoch, Qt::UTC), logCategory(category),
+                        logActionText(action, status), path});
 }
 
 const QString& RemoteConnectionDialog::remoteToolsSessionId() const
@@ -348,7 +348,7 @@ void RemoteConnectionDialog::updateClockTimer()
 
 void RemoteConnectionDialog::fitPathsToWindow()
 {
-    layout()->activate();
+    fitSize();
     ui->logsListView->ensurePolished();
     logModel->setPathDisplay(ui->logsListView->font(), qMax(width() / 3, 178));
 }
@@ -364,6 +364,13 @@ void RemoteConnectionDialog::setPartVisible(QWidget* part, bool visible)
     });
 }
 
+void RemoteConnectionDialog::fitSize()
+{
+    ensurePolished();
+    layout()->activate();
+    resize(layout()->sizeHint());
+}
+
 void RemoteConnectionDialog::storeAnchor()
 {
     if (!anchor.isNull())
@@ -372,7 +379,7 @@ void RemoteConnectionDialog::storeAnchor()
 
 void RemoteConnectionDialog::returnToAnchor()
 {
-    layout()->activate();
+    fitSize();
     if (anchor.isNull())
         return;
     move(anchor - QPoint(width(), height()));
@@ -382,8 +389,7 @@ void RemoteConnectionDialog::returnToAnchor()
 
 void RemoteConnectionDialog::moveToCorner()
 {
-    ensurePolished();
-    layout()->activate();
+    fitSize();
     const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
     move(area.x() + area.width() - width(), area.y() + area.height() - height());
     anchor = pos() + QPoint(width(), height());

@@ -25,6 +25,16 @@ QString placeholder(int maxLength)
     return ServiceDeskTicketDialog::tr("Required (max. %1 chars)").arg(maxLength);
 }
 
+/// A style sheet gives its text colour to placeholders too, which makes them look like something typed.
+void fadePlaceholder(QWidget* field)
+{
+    QPalette palette = field->palette();
+    QColor color = palette.color(QPalette::Text);
+    color.setAlphaF(0.6);
+    palette.setColor(QPalette::PlaceholderText, color);
+    field->setPalette(palette);
+}
+
 int indexOfHalfPair(const QString& text)
 {
     for (int i = 0; i < text.size(); ++i) {
@@ -145,7 +155,7 @@ QString ServiceDeskTicketDialog::getIssueDetails() const
 void ServiceDeskTicketDialog::setIssueDetails(const QString& details)
 {
     const QScopedValueRollback<bool> notAnEdit(changed);
-    ui->txIssueDetails->setPlainText(details);
+    showPlainText(ui->txIssueDetails, details);
 }
 
 bool ServiceDeskTicketDialog::isIncludeDeviceData() const
@@ -224,6 +234,13 @@ bool ServiceDeskTicketDialog::validate()
 {
     changed = true;
     return updateSubmitButton();
+}
+
+void ServiceDeskTicketDialog::showEvent(QShowEvent* event)
+{
+    BaseDialog::showEvent(event);
+    fadePlaceholder(ui->edSubject);
+    fadePlaceholder(ui->txIssueDetails);
 }
 
 void ServiceDeskTicketDialog::keyPressEvent(QKeyEvent* event)

@@ -53,6 +53,7 @@ public Q_SLOTS:
     bool validate();
 
 protected:
+    void showEvent(QShowEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:

@@ -9,7 +9,7 @@ QStringList warnings;
 
 void recordMessage(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
-    // The offscreen platform says so of raising windows and the like.
+    // What the offscreen platform cannot do is no fault of the library.
     if (message.startsWith(QLatin1String("This plugin does not support ")))
         return;
     allMessages << message;
