@@ -3,6 +3,7 @@
 #include "DisplayText.h"
 #include "LogsListAccessible.h"
 #include "LogsListModel.h"
+#include "RichTextDelegate.h"
 
 #include <QAccessible>
 #include <QClipboard>
@@ -109,6 +110,10 @@ void LogsListView::scrollContentsBy(int dx, int dy)
 {
     scrollDirtyRegion(dx, dy);
     viewport()->scroll(dx, dy);
+    scrollingDown = dy < 0;
+    rowsToPrepare = rowsPerPage() + 1;
+    nextRow = scrollingDown ? rowAt(viewport()->height()) : rowAt(0) - 1;
+    idle.start(0, this);
 }
 
 QModelIndex LogsListView::moveCursor(CursorAction action, Qt::KeyboardModifiers)
@@ -225,6 +230,26 @@ void LogsListView::keyPressEvent(QKeyEvent* event)
         copySelectedRows();
     else
         QListView::keyPressEvent(event);
+}
+
+void LogsListView::timerEvent(QTimerEvent* event)
+{
+    if (event->timerId() == idle.timerId())
+        prepareNextRow();
+    else
+        QListView::timerEvent(event);
+}
+
+void LogsListView::prepareNextRow()
+{
+    const auto* delegate = qobject_cast<RichTextDelegate*>(itemDelegate());
+    const QModelIndex index = nextRow >= 0 && nextRow < rowCount() ? model()->index(nextRow, 0) : QModelIndex();
+    if (!delegate || !index.isValid() || rowsToPrepare-- == 0) {
+        idle.stop();
+        return;
+    }
+    delegate->prepare(viewOptions(), index);
+    nextRow += scrollingDown ? 1 : -1;
 }
 
 int LogsListView::rowCount() const

@@ -1,6 +1,7 @@
 #include "DisplayText.h"
 
 #include <QFontMetrics>
+#include <QLabel>
 #include <QPlainTextEdit>
 #include <QTextDocument>
 #include <QTextEdit>
@@ -97,4 +98,9 @@ void showPlainText(QTextEdit* edit, const QString& text)
 void showPlainText(QPlainTextEdit* edit, const QString& text)
 {
     showWrapped(edit, text);
+}
+
+void giveDescendersRoom(QLabel* heading)
+{
+    heading->setContentsMargins(0, 0, 0, 2);
 }

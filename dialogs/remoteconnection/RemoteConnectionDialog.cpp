@@ -11,11 +11,21 @@
 #include <QGuiApplication>
 #include <QPointer>
 #include <QScreen>
+#include <QScrollBar>
 
 #include <algorithm>
 
 namespace {
 const char sessionIdProperty[] = "P_SID";
+
+// Beneath frames that give all their children a background, a scroll bar takes its look from its own style sheet only.
+const QLatin1String
+    scrollBarStyle("QScrollBar:vertical { background: #3b4147; width: 11px; margin: 30px 0px 30px 0px;"
+                   " border-radius: 5px; }"
+                   "QScrollBar::handle:vertical { background: #7e8285; min-height: 20px;"
+                   " border-radius: 5px; }"
+                   "QScrollBar::add-line:vertical, QScrollBar::sub-line:vertical { height: 0px; }"
+                   "QScrollBar::add-page:vertical, QScrollBar::sub-page:vertical { background: none; }");
 
 QString sessionIdOf(const QObject* panel)
 {
@@ -40,6 +50,7 @@ RemoteConnectionDialog::RemoteConnectionDialog(QWidget* parent)
 
     ui->logsListView->setModel(logModel);
     ui->logsListView->setItemDelegate(new RichTextDelegate(this));
+    ui->logsListView->verticalScrollBar()->setStyleSheet(scrollBarStyle);
     ui->dummyTakeoverPanel->hide();
     ui->fileTransportPanel->hide();
     ui->fileTransferInfo->hide();

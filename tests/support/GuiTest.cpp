@@ -9,7 +9,7 @@ QStringList warnings;
 
 void recordMessage(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
-    // What the offscreen platform cannot do is no fault of the library.
+    // The offscreen platform says so when a window is raised or a message box is shown.
     if (message.startsWith(QLatin1String("This plugin does not support ")))
         return;
     allMessages << message;
