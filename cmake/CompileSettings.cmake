@@ -12,12 +12,28 @@ target_compile_definitions(compile_settings INTERFACE
     QT_DEPRECATED_WARNINGS
     QT_DISABLE_DEPRECATED_BEFORE=0x050C00)
 
+# Warnings high everywhere, and the hardening that each platform's tools have.
 if(MSVC)
-    target_compile_options(compile_settings INTERFACE /W4 /permissive- /utf-8 /guard:cf $<$<BOOL:${GUI_WERROR}>:/WX>)
+    target_compile_options(compile_settings INTERFACE
+        /W4 /permissive- /utf-8 $<$<BOOL:${GUI_WERROR}>:/WX>
+        /sdl /guard:cf)
+    target_link_options(compile_settings INTERFACE
+        /guard:cf /DYNAMICBASE /NXCOMPAT $<$<EQUAL:${CMAKE_SIZEOF_VOID_P},8>:/HIGHENTROPYVA>)
 else()
     target_compile_options(compile_settings INTERFACE
         -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wundef
-        $<$<BOOL:${GUI_WERROR}>:-Werror>)
+        $<$<BOOL:${GUI_WERROR}>:-Werror>
+        -fstack-protector-strong)
+    # MinGW links the library behind it by the same switch.
+    target_link_options(compile_settings INTERFACE -fstack-protector-strong)
+    # Needs an optimising build.
+    target_compile_definitions(compile_settings INTERFACE $<$<NOT:$<CONFIG:Debug>>:_FORTIFY_SOURCE=2>)
+    if(WIN32)
+        target_link_options(compile_settings INTERFACE
+            LINKER:--dynamicbase,--nxcompat $<$<EQUAL:${CMAKE_SIZEOF_VOID_P},8>:LINKER:--high-entropy-va>)
+    elseif(NOT APPLE)
+        target_link_options(compile_settings INTERFACE LINKER:-z,relro,-z,now)
+    endif()
 endif()
 
 if(GUI_SANITIZE)

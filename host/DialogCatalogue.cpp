@@ -15,6 +15,7 @@
 #include "IServiceDeskTicketDialog.h"
 #include "IZentPasswordDialog.h"
 
+#include <QDateTime>
 #include <QStringList>
 
 #include <cmath>
@@ -24,6 +25,16 @@
 #include <utility>
 
 namespace {
+/// "now", or "now" less a number of milliseconds as in "now-60000", as the time in milliseconds since 1970.
+qint64 pointInTime(const QString& text)
+{
+    bool isNumber = true;
+    const qint64 before = text == QLatin1String("now") ? 0 : text.mid(4).toLongLong(&isNumber);
+    if (!isNumber || !(text == QLatin1String("now") || text.startsWith(QLatin1String("now-"))))
+        throw ScriptError(QStringLiteral("expected a number, \"now\" or \"now-MILLISECONDS\""));
+    return QDateTime::currentMSecsSinceEpoch() - before;
+}
+
 template <class T>
 T fromJson(const QJsonValue& value)
 {
@@ -47,6 +58,8 @@ T fromJson(const QJsonValue& value)
     } else if constexpr (std::is_floating_point_v<T>) {
         require(value.isDouble(), "a number");
         return static_cast<T>(value.toDouble());
+    } else if (std::is_same_v<T, qint64> && value.isString()) {
+        return static_cast<T>(pointInTime(value.toString()));
     } else {
         const double number = value.toDouble();
         // The upper limit of 64 bits is no double; the next one above it is.

@@ -168,6 +168,7 @@ const QHash<QString, ScriptPlayer::Command>& ScriptPlayer::commands()
         {QStringLiteral("get"), entry(&ScriptPlayer::get, {"dialog", "id"})},
         {QStringLiteral("set"), entry(&ScriptPlayer::set, {"dialog", "id", "properties"})},
         {QStringLiteral("call"), entry(&ScriptPlayer::call, {"dialog", "id", "operation", "arguments"})},
+        {QStringLiteral("log"), entry(&ScriptPlayer::log, {"time", "category", "action", "path", "status"})},
         {QStringLiteral("expect"), entry(&ScriptPlayer::expect, {"dialog", "id", "properties"})},
         {QStringLiteral("show"), entry(&ScriptPlayer::show, {"dialog", "id"})},
         {QStringLiteral("hide"), entry(&ScriptPlayer::hide, {"dialog", "id"})},
@@ -246,6 +247,15 @@ void ScriptPlayer::call(const QJsonObject& command)
     Q_EMIT output({{QStringLiteral("dialog"), target.family->name},
                    {QStringLiteral("operation"), operation.name},
                    {QStringLiteral("result"), operation.isSecret() ? QJsonValue(QStringLiteral("***")) : result}});
+}
+
+void ScriptPlayer::log(const QJsonObject& command)
+{
+    const Instance& target = instance({{QStringLiteral("dialog"), QStringLiteral("RemoteConnectionDialog")}});
+    QJsonArray arguments{command.value(QLatin1String("time"))};
+    for (const char* key : {"category", "action", "path", "status"})
+        arguments.append(command.value(QLatin1String(key)).toString());
+    target.family->operation(QStringLiteral("addLogEvent")).call(*target.dialog, arguments);
 }
 
 void ScriptPlayer::expect(const QJsonObject& command)

@@ -76,6 +76,7 @@ private:
     void get(const QJsonObject& command);
     void set(const QJsonObject& command);
     void call(const QJsonObject& command);
+    void log(const QJsonObject& command);
     void expect(const QJsonObject& command);
     void show(const QJsonObject& command);
     void hide(const QJsonObject& command);

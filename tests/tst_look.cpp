@@ -141,7 +141,7 @@ double requiredContrast(const QWidget& widget)
         if (names.contains(widget.objectName()))
             return 2.5;
         if (qobject_cast<const QPushButton*>(&widget))
-            return 3.9;
+            return 3.8;
     }
     return isLarge(widget.font()) ? 3.0 : 4.5;
 }

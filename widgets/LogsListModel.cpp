@@ -9,6 +9,9 @@ namespace {
 // An unknown action key is shown as it is, but nobody can read more of it than this in a row.
 constexpr int longestAction = 256;
 
+// A few screens full.
+constexpr int keptTexts = 200;
+
 QString timeText(const LogEntry& entry)
 {
     return entry.time.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
@@ -20,7 +23,9 @@ QString plainText(const LogEntry& entry)
 }
 } // namespace
 
-LogsListModel::LogsListModel(QObject* parent) : QAbstractListModel(parent), pathMetrics(QFont()) { }
+LogsListModel::LogsListModel(QObject* parent) : QAbstractListModel(parent), shownTexts(keptTexts), pathMetrics(QFont())
+{
+}
 
 int LogsListModel::rowCount(const QModelIndex& parent) const
 {
@@ -34,7 +39,7 @@ QVariant LogsListModel::data(const QModelIndex& index, int role) const
     const LogEntry& entry = entries[static_cast<size_t>(index.row())];
     switch (role) {
     case Qt::DisplayRole:
-        return html(entry);
+        return displayText(entry);
     case Qt::ToolTipRole:
         return entry.path;
     case PlainTextRole:
@@ -60,6 +65,7 @@ void LogsListModel::clear()
 {
     beginResetModel();
     entries.clear();
+    shownTexts.clear();
     endResetModel();
 }
 
@@ -67,6 +73,16 @@ void LogsListModel::setPathDisplay(const QFont& font, int width)
 {
     pathMetrics = QFontMetrics(font);
     pathWidth = width;
+    shownTexts.clear();
+}
+
+QString LogsListModel::displayText(const LogEntry& entry) const
+{
+    if (const QString* known = shownTexts.object(&entry))
+        return *known;
+    const QString text = html(entry);
+    shownTexts.insert(&entry, new QString(text));
+    return text;
 }
 
 QString LogsListModel::html(const LogEntry& entry) const

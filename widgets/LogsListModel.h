@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractListModel>
+#include <QCache>
 #include <QDateTime>
 #include <QFontMetrics>
 
@@ -40,9 +41,13 @@ public:
 private:
     Q_DISABLE_COPY(LogsListModel)
 
+    QString displayText(const LogEntry& entry) const;
     QString html(const LogEntry& entry) const;
 
+    /// Entries stay where they are in memory when others are added.
     std::deque<LogEntry> entries;
+    /// The HTML of the entries last shown, which are shown again and again.
+    mutable QCache<const LogEntry*, QString> shownTexts;
     QFontMetrics pathMetrics;
     int pathWidth = 178;
 };

@@ -3,6 +3,7 @@
 #include "DisplayText.h"
 #include "LogsListAccessible.h"
 #include "LogsListModel.h"
+#include "RichTextDelegate.h"
 
 #include <QAccessible>
 #include <QClipboard>
@@ -37,6 +38,7 @@ QRect LogsListView::visualRect(const QModelIndex& index) const
 {
     if (!index.isValid() || index.model() != model())
         return QRect();
+    layOutNow();
     return {0, index.row() * rowHeight - verticalOffset(), viewport()->width(), rowHeight};
 }
 
@@ -48,7 +50,6 @@ QModelIndex LogsListView::indexAt(const QPoint& point) const
 
 void LogsListView::scrollTo(const QModelIndex& index, ScrollHint hint)
 {
-    executeDelayedItemsLayout();
     const QRect row = visualRect(index);
     const int room = viewport()->height() - rowHeight;
     if (row.isNull() || (hint == EnsureVisible && row.top() >= 0 && row.top() <= room))
@@ -109,6 +110,10 @@ void LogsListView::scrollContentsBy(int dx, int dy)
 {
     scrollDirtyRegion(dx, dy);
     viewport()->scroll(dx, dy);
+    scrollingDown = dy < 0;
+    rowsToPrepare = rowsPerPage() + 1;
+    nextRow = scrollingDown ? rowAt(viewport()->height()) : rowAt(0) - 1;
+    idle.start(0, this);
 }
 
 QModelIndex LogsListView::moveCursor(CursorAction action, Qt::KeyboardModifiers)
@@ -193,7 +198,7 @@ bool LogsListView::viewportEvent(QEvent* event)
 
 void LogsListView::paintEvent(QPaintEvent* event)
 {
-    executeDelayedItemsLayout();
+    layOutNow();
     QPainter painter(viewport());
     painter.fillRect(event->rect(), palette().base());
     QStyleOptionViewItem option = viewOptions();
@@ -227,6 +232,26 @@ void LogsListView::keyPressEvent(QKeyEvent* event)
         QListView::keyPressEvent(event);
 }
 
+void LogsListView::timerEvent(QTimerEvent* event)
+{
+    if (event->timerId() == idle.timerId())
+        prepareNextRow();
+    else
+        QListView::timerEvent(event);
+}
+
+void LogsListView::prepareNextRow()
+{
+    const auto* delegate = qobject_cast<RichTextDelegate*>(itemDelegate());
+    const QModelIndex index = nextRow >= 0 && nextRow < rowCount() ? model()->index(nextRow, 0) : QModelIndex();
+    if (!delegate || !index.isValid() || rowsToPrepare-- == 0) {
+        idle.stop();
+        return;
+    }
+    delegate->prepare(viewOptions(), index);
+    nextRow += scrollingDown ? 1 : -1;
+}
+
 int LogsListView::rowCount() const
 {
     return model() ? model()->rowCount() : 0;
@@ -237,8 +262,15 @@ int LogsListView::rowsPerPage() const
     return rowHeight > 0 ? qMax(1, viewport()->height() / rowHeight) : 1;
 }
 
+void LogsListView::layOutNow() const
+{
+    // Asking where a row is finishes the layout that is due, as in every item view.
+    const_cast<LogsListView*>(this)->executeDelayedItemsLayout();
+}
+
 int LogsListView::rowAt(int y) const
 {
+    layOutNow();
     return rowHeight > 0 ? (y + verticalOffset()) / rowHeight : -1;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QBasicTimer>
 #include <QListView>
 
 /// A list view for a log that grows at its top by hundreds of rows a second and may reach millions.
@@ -36,18 +37,27 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
 
 private:
     Q_DISABLE_COPY(LogsListView)
 
     int rowCount() const;
     int rowsPerPage() const;
+    void layOutNow() const;
     /// The row at a height of the viewport, which may be a row that does not exist.
     int rowAt(int y) const;
     void measureRow();
     void copySelectedRows() const;
+    void prepareNextRow();
 
     int rowHeight = 0;
     /// Rows added above what is shown, for which the next layout has to make up.
     int rowsAddedAbove = 0;
+
+    // While nothing else is to be done, the page that scrolling will show next is prepared row by row.
+    QBasicTimer idle;
+    int nextRow = 0;
+    int rowsToPrepare = 0;
+    bool scrollingDown = true;
 };

@@ -3,12 +3,21 @@
 #include <QAbstractTextDocumentLayout>
 #include <QApplication>
 #include <QPainter>
+#include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <QTextLayout>
 
 namespace {
 // A few screens full.
 constexpr int keptDocuments = 200;
+
+/// Choosing the glyphs is most of the work; a document does it anew for every painting unless it is told otherwise.
+void keepGlyphs(const QTextDocument* document)
+{
+    for (QTextBlock block = document->begin(); block.isValid(); block = block.next())
+        block.layout()->setCacheEnabled(true);
+}
 
 QAbstractTextDocumentLayout::PaintContext paintContext(const QStyleOptionViewItem& option, QTextDocument* document)
 {
@@ -49,6 +58,14 @@ void RichTextDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opti
     painter->restore();
 }
 
+void RichTextDelegate::prepare(const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    QStyleOptionViewItem item = option;
+    initStyleOption(&item, index);
+    // The size is what the layout is made for.
+    document(item.text, item.font)->size();
+}
+
 QSize RichTextDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
     QStyleOptionViewItem item = option;
@@ -67,6 +84,7 @@ QTextDocument* RichTextDelegate::document(const QString& html, const QFont& font
         text = new QTextDocument;
         text->setDefaultFont(font);
         text->setHtml(html);
+        keepGlyphs(text);
         documents.insert(html, text);
     } else if (text->defaultFont() != font) {
         text->setDefaultFont(font);

@@ -50,7 +50,7 @@ QString withoutInvisibles(QString text)
 }
 } // namespace
 
-ActivationDialog::ActivationDialog(QWidget*) : ui(new Ui::ActivationDialog)
+ActivationDialog::ActivationDialog(QWidget* parent) : BaseDialog(parent), ui(new Ui::ActivationDialog)
 {
     ui->setupUi(this);
     setupWindow();
@@ -78,7 +78,7 @@ QString ActivationDialog::getServerUrl() const
     const int port = portNumber(ui->edPort->text());
     if (url.scheme() != QLatin1String("http") || url.host(QUrl::FullyDecoded).isEmpty()
         || !url.path(QUrl::FullyDecoded).isEmpty() || port == 0)
-        return QString();
+        return {};
 
     url.setScheme(QStringLiteral("https"));
     url.setPort(port);
@@ -147,7 +147,7 @@ void ActivationDialog::slPasteEnrollDataFromClipboard()
 void ActivationDialog::watchInsertions(QLineEdit* edit)
 {
     // A field tells that it was edited, not what was inserted. That starts where selection or cursor stood before and
-    // ends at the cursor, whether it was pasted, dropped or committed by an input method.
+    // ends at the cursor, in whichever way it was pasted or dropped.
     const auto start = std::make_shared<int>(0);
     const auto rememberStart = [edit, start] {
         *start = edit->hasSelectedText() ? edit->selectionStart() : edit->cursorPosition();

@@ -17,7 +17,6 @@ class ActivationDialog final : public BaseDialog, public virtual IActivationDial
     Q_OBJECT
 
 public:
-    /// A top-level window whatever @p parent is.
     explicit ActivationDialog(QWidget* parent = nullptr);
     ~ActivationDialog() override;
 

@@ -29,7 +29,7 @@ QString firstLink(const QString& text)
             return text.mid(start, end - start);
         start = text.indexOf(scheme, position);
     }
-    return QString();
+    return {};
 }
 } // namespace
 

@@ -23,8 +23,8 @@ public:
     /// Empty when they do not make one: no host, a scheme other than http, a path behind the host, or a port that is
     /// not a plain number from 1 to 65535. User info, query and fragment of the typed text are dropped.
     virtual QString getServerUrl() const = 0;
-    /// Fills host and port from an address; 443 where it names no port. Scheme and path are ignored. An invalid
-    /// address or one without a host changes nothing.
+    /// Fills host and port from an address; 443 where it names no port. Scheme and path are ignored. From an invalid
+    /// address, or one without a host as `mdm.example.com` alone, comes an empty host.
     virtual void setServerUrl(const QString& url) = 0;
 
     /// The enrollment token without white space around it. Its form is not checked.

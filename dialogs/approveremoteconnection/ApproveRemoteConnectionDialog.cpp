@@ -12,6 +12,7 @@
 
 namespace {
 const QLatin1String titleSeparator(" - ");
+constexpr int cascadeStep = 32;
 
 QString sessionText(int sessionType)
 {
@@ -31,12 +32,13 @@ QString sessionText(int sessionType)
     }
 }
 
-bool isTaken(const QPoint& position, const QWidget* self)
+bool isTaken(const QPoint& place, const QWidget* self)
 {
     const QWidgetList windows = QApplication::topLevelWidgets();
     return std::any_of(windows.cbegin(), windows.cend(), [&](const QWidget* window) {
-        return window != self && window->isVisible() && window->pos() == position
-            && qobject_cast<const ApproveRemoteConnectionDialog*>(window);
+        const QPoint distance = window->pos() - place;
+        return window != self && window->isVisible() && qobject_cast<const ApproveRemoteConnectionDialog*>(window)
+            && qMax(qAbs(distance.x()), qAbs(distance.y())) < cascadeStep;
     });
 }
 } // namespace
@@ -222,14 +224,16 @@ void ApproveRemoteConnectionDialog::setTitleParts(const QString& session)
 
 void ApproveRemoteConnectionDialog::moveOffOtherPrompts()
 {
-    // Each further prompt stands a title bar's height below and right of the one before, so that every title stays
-    // readable; at the screen's edge a new cascade begins at the top left.
-    constexpr QPoint step(32, 32);
+    // Each further prompt stands a title bar's height below and right of the one before, so that every name stays
+    // readable; past an edge of the screen the cascade goes on at the opposite one.
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-    QPoint position = pos();
-    for (int column = 1; isTaken(position, this); position += step) {
-        if (!screen.contains(QRect(position + step, frameSize())))
-            position = screen.topLeft() + QPoint(step.x() * (2 * column++ - 1), 0) - step;
+    const int columns = qMax(1, (screen.width() - frameSize().width()) / cascadeStep);
+    const int rows = qMax(1, (screen.height() - frameSize().height()) / cascadeStep);
+    const QPoint start = pos() - screen.topLeft();
+    QPoint place = pos();
+    for (int i = 1; i < columns * rows && isTaken(place, this); ++i) {
+        const QPoint next = start + QPoint(i, i) * cascadeStep;
+        place = screen.topLeft() + QPoint(next.x() % (columns * cascadeStep), next.y() % (rows * cascadeStep));
     }
-    move(position);
+    move(place);
 }

@@ -1,6 +1,7 @@
 #include "AuthorizationDialog.h"
 
-#include "CredentialFields.h"
+#include "DisplayText.h"
+#include "HintPicture.h"
 #include "ui_AuthorizationDialog.h"
 
 namespace {
@@ -19,17 +20,14 @@ QString reminderLink(const QString& text)
 }
 } // namespace
 
-AuthorizationDialog::AuthorizationDialog(QWidget*) : ui(new Ui::AuthorizationDialog)
+AuthorizationDialog::AuthorizationDialog(QWidget* parent) : BaseDialog(parent), ui(new Ui::AuthorizationDialog)
 {
     ui->setupUi(this);
     setupWindow();
-    giveDescendersRoom(ui->label_2);
-    giveDescendersRoom(ui->label1);
     setCaption(ui->lblAppName, ui->lblType, tr("Login"));
     // Translators get the words alone.
     ui->lblWebLink->setText(reminderLink(ui->lblWebLink->text()));
     ui->btnLogin->setEnabled(false);
-    keepNoHistory(ui->edPassword);
 
     connect(ui->edEmail, &QLineEdit::textChanged, this, &AuthorizationDialog::doEnableOk);
     connect(ui->edPassword, &QLineEdit::textChanged, this, &AuthorizationDialog::doEnableOk);

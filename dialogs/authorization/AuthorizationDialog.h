@@ -15,7 +15,6 @@ class AuthorizationDialog final : public BaseDialog, public virtual IAuthorizati
     Q_OBJECT
 
 public:
-    /// A top-level window whatever @p parent is.
     explicit AuthorizationDialog(QWidget* parent = nullptr);
     ~AuthorizationDialog() override;
 

@@ -1,11 +1,13 @@
 #include "LinkLabel.h"
 
-#include <QFocusEvent>
-
 void LinkLabel::focusInEvent(QFocusEvent* event)
 {
     QLabel::focusInEvent(event);
-    const bool backwards = event->reason() == Qt::BacktabFocusReason;
-    if (backwards || event->reason() == Qt::TabFocusReason)
-        focusNextPrevChild(!backwards);
+    if (!hasSelectedText())
+        QLabel::focusNextPrevChild(true);
+}
+
+bool LinkLabel::focusNextPrevChild(bool next)
+{
+    return QWidget::focusNextPrevChild(next); // NOLINT(bugprone-parent-virtual-call): not to the next link
 }

@@ -2,9 +2,9 @@
 
 #include <QLabel>
 
-/// A label that is one link. The Tab key leads to the link itself: a plain label takes one Tab that shows nothing and
-/// another one for its link.
-class LinkLabel final : public QLabel {
+/// A label with one link, which has the focus when the label has it. In a plain QLabel the first press of Tab reaches
+/// the label only, so that Return goes to the dialog, and Shift+Tab never leaves the link.
+class LinkLabel : public QLabel {
     Q_OBJECT
 
 public:
@@ -12,4 +12,5 @@ public:
 
 protected:
     void focusInEvent(QFocusEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
 };

@@ -1,7 +1,8 @@
 #include "EnterPasswordDialog.h"
 
-#include "CredentialFields.h"
 #include "ui_EnterPasswordDialog.h"
+
+#include <QShowEvent>
 
 namespace {
 enum AccessMode {
@@ -11,13 +12,11 @@ enum AccessMode {
 };
 } // namespace
 
-EnterPasswordDialog::EnterPasswordDialog(QWidget*) : ui(new Ui::EnterPasswordDialog)
+EnterPasswordDialog::EnterPasswordDialog(QWidget* parent) : BaseDialog(parent), ui(new Ui::EnterPasswordDialog)
 {
     ui->setupUi(this);
     setupWindow();
     setCaption(ui->lblAppName, ui->lblType, tr("Enter password"));
-    keepNoHistory(ui->editAdministratorPassword);
-    keepNoHistory(ui->editZentPassword);
 
     setAccessMode(EitherWay);
     setCustomPasswordSelected(false);
@@ -129,7 +128,8 @@ void EnterPasswordDialog::accept()
 void EnterPasswordDialog::showEvent(QShowEvent* event)
 {
     // Which field is the first one to type into depends on what the host has set meanwhile.
-    (isCustomPasswordSelected() ? ui->editZentPassword : ui->editDomain)->setFocus();
+    if (!event->spontaneous())
+        (isCustomPasswordSelected() ? ui->editZentPassword : ui->editDomain)->setFocus();
     BaseDialog::showEvent(event);
 }
 

@@ -15,7 +15,6 @@ class EnterPasswordDialog final : public BaseDialog, public virtual IEnterPasswo
     Q_OBJECT
 
 public:
-    /// A top-level window whatever @p parent is.
     explicit EnterPasswordDialog(QWidget* parent = nullptr);
     ~EnterPasswordDialog() override;
 

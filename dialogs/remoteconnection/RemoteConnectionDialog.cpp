@@ -11,11 +11,21 @@
 #include <QGuiApplication>
 #include <QPointer>
 #include <QScreen>
+#include <QScrollBar>
 
 #include <algorithm>
 
 namespace {
 const char sessionIdProperty[] = "P_SID";
+
+// Beneath frames that give all their children a background, a scroll bar takes its look from its own style sheet only.
+const QLatin1String
+    scrollBarStyle("QScrollBar:vertical { background: #3b4147; width: 11px; margin: 30px 0px 30px 0px;"
+                   " border-radius: 5px; }"
+                   "QScrollBar::handle:vertical { background: #7e8285; min-height: 20px;"
+                   " border-radius: 5px; }"
+                   "QScrollBar::add-line:vertical, QScrollBar::sub-line:vertical { height: 0px; }"
+                   "QScrollBar::add-page:vertical, QScrollBar::sub-page:vertical { background: none; }");
 
 QString sessionIdOf(const QObject* panel)
 {
@@ -40,6 +50,7 @@ RemoteConnectionDialog::RemoteConnectionDialog(QWidget* parent)
 
     ui->logsListView->setModel(logModel);
     ui->logsListView->setItemDelegate(new RichTextDelegate(this));
+    ui->logsListView->verticalScrollBar()->setStyleSheet(scrollBarStyle);
     ui->dummyTakeoverPanel->hide();
     ui->fileTransportPanel->hide();
     ui->fileTransferInfo->hide();
@@ -348,7 +359,7 @@ void RemoteConnectionDialog::updateClockTimer()
 
 void RemoteConnectionDialog::fitPathsToWindow()
 {
-    layout()->activate();
+    fitSize();
     ui->logsListView->ensurePolished();
     logModel->setPathDisplay(ui->logsListView->font(), qMax(width() / 3, 178));
 }
@@ -364,6 +375,13 @@ void RemoteConnectionDialog::setPartVisible(QWidget* part, bool visible)
     });
 }
 
+void RemoteConnectionDialog::fitSize()
+{
+    ensurePolished();
+    layout()->activate();
+    resize(layout()->sizeHint());
+}
+
 void RemoteConnectionDialog::storeAnchor()
 {
     if (!anchor.isNull())
@@ -372,7 +390,7 @@ void RemoteConnectionDialog::storeAnchor()
 
 void RemoteConnectionDialog::returnToAnchor()
 {
-    layout()->activate();
+    fitSize();
     if (anchor.isNull())
         return;
     move(anchor - QPoint(width(), height()));
@@ -382,8 +400,7 @@ void RemoteConnectionDialog::returnToAnchor()
 
 void RemoteConnectionDialog::moveToCorner()
 {
-    ensurePolished();
-    layout()->activate();
+    fitSize();
     const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
     move(area.x() + area.width() - width(), area.y() + area.height() - height());
     anchor = pos() + QPoint(width(), height());

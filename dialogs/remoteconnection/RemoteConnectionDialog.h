@@ -82,6 +82,7 @@ private:
     void fitPathsToWindow();
 
     void setPartVisible(QWidget* part, bool visible);
+    void fitSize();
     void storeAnchor();
     void returnToAnchor();
     void moveToCorner();

@@ -1,17 +1,15 @@
 #include "ZentPasswordDialog.h"
 
-#include "CredentialFields.h"
+#include "DisplayText.h"
+#include "HintPicture.h"
 #include "ui_ZentPasswordDialog.h"
 
-ZentPasswordDialog::ZentPasswordDialog(QWidget*) : ui(new Ui::ZentPasswordDialog)
+ZentPasswordDialog::ZentPasswordDialog(QWidget* parent) : BaseDialog(parent), ui(new Ui::ZentPasswordDialog)
 {
     ui->setupUi(this);
     setupWindow();
-    giveDescendersRoom(ui->label_2);
-    giveDescendersRoom(ui->label1);
     setCaption(ui->lblAppName, ui->lblType, tr("Enter password"));
     ui->btnContinue->setEnabled(false);
-    keepNoHistory(ui->edPassword);
 
     connect(ui->edPassword, &QLineEdit::textChanged, this, &ZentPasswordDialog::doEnableOk);
     connect(ui->edPassword, &QLineEdit::textChanged, this, &ZentPasswordDialog::doShowPasswordIcon);

@@ -15,7 +15,6 @@ class ZentPasswordDialog final : public BaseDialog, public virtual IZentPassword
     Q_OBJECT
 
 public:
-    /// A top-level window whatever @p parent is.
     explicit ZentPasswordDialog(QWidget* parent = nullptr);
     ~ZentPasswordDialog() override;
 

@@ -1,0 +1,157 @@
+#include "DialogCatalogue.h"
+#include "GuiInterface.h"
+#include "GuiTest.h"
+#include "IBaseDialog.h"
+
+#include <QDir>
+#include <QJsonDocument>
+#include <QMetaMethod>
+#include <QPluginLoader>
+#include <QProcess>
+#include <QTextStream>
+
+#include <algorithm>
+
+namespace {
+/// Virtual functions in their order, enumerators and base classes, as the text of a header declares them.
+void describeHeader(QTextStream& out, const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("cannot read %s", qPrintable(path));
+    QString text = QString::fromUtf8(file.readAll());
+    text.remove(QRegularExpression(QStringLiteral("//[^\n]*")));
+    text = text.simplified();
+
+    const QRegularExpression declaration(QStringLiteral(R"(class (?<class>\w+(?: : [^;{]+)?) \{)"
+                                                        R"(|enum (?<enum>\w+) \{ (?<values>[^}]*?),? \})"
+                                                        R"(|virtual (?<function>[^;]+?) = (?:0|default);)"
+                                                        R"(|Q_DECLARE_INTERFACE\((?<identifier>[^)]+)\))"));
+    int slot = 0;
+    for (auto matches = declaration.globalMatch(text); matches.hasNext();) {
+        const QRegularExpressionMatch match = matches.next();
+        const auto found = [&match](const char* name) { return match.captured(QLatin1String(name)); };
+        if (!found("class").isEmpty()) {
+            out << "\nclass " << found("class") << '\n';
+            slot = 0;
+        } else if (!found("enum").isEmpty()) {
+            for (const QString& value : found("values").split(QStringLiteral(", ")))
+                out << "    " << found("enum") << ' ' << value << '\n';
+        } else if (!found("function").isEmpty()) {
+            out << "    " << slot++ << ' ' << found("function") << '\n';
+        } else {
+            out << "    interface " << found("identifier") << '\n';
+        }
+    }
+}
+
+void describePlugin(QTextStream& out, const QString& path)
+{
+    const QJsonObject data = QPluginLoader(path).metaData();
+    out << "# What hosts rely on. Written by: cmake --build build/dev --target renew-contract\n\nplugin\n";
+    for (const char* key : {"IID", "className"})
+        out << "    " << key << ' ' << data.value(QLatin1String(key)).toString() << '\n';
+    const QJsonDocument custom(data.value(QLatin1String("MetaData")).toObject());
+    out << "    MetaData " << custom.toJson(QJsonDocument::Compact) << '\n';
+
+    QProcess nm;
+    nm.start(QStringLiteral(NM),
+             {QStringLiteral("--dynamic"), QStringLiteral("--defined-only"), QStringLiteral("--format=posix"), path});
+    if (!nm.waitForFinished() || nm.exitCode() != 0)
+        qFatal("cannot list the symbols of %s", qPrintable(path));
+    for (const QByteArray& symbol : nm.readAllStandardOutput().trimmed().split('\n'))
+        out << "    exports " << symbol.left(symbol.indexOf(' ')) << '\n';
+}
+
+bool isOwnClass(const QMetaObject& metaObject)
+{
+    const QByteArray name = metaObject.className();
+    return !name.startsWith('Q') || name == "QLabelEx";
+}
+
+QString signature(const QMetaMethod& method)
+{
+    QStringList parameters;
+    for (int i = 0; i < method.parameterCount(); ++i) {
+        const QByteArray parameter = method.parameterTypes().at(i) + ' ' + method.parameterNames().at(i);
+        parameters << QString::fromLatin1(parameter).trimmed();
+    }
+    return QStringLiteral("%1(%2)").arg(QString::fromLatin1(method.name()), parameters.join(QStringLiteral(", ")));
+}
+
+/// Base classes, signals and slots in their order.
+void describeClass(QTextStream& out, const QMetaObject& metaObject)
+{
+    out << '\n' << metaObject.className();
+    for (const QMetaObject* base = metaObject.superClass(); base; base = base->superClass())
+        out << " : " << base->className();
+    out << '\n';
+    for (int i = metaObject.methodOffset(); i < metaObject.methodCount(); ++i) {
+        const QMetaMethod method = metaObject.method(i);
+        const bool isSignal = method.methodType() == QMetaMethod::Signal;
+        out << (isSignal ? "    signal " : "    slot ") << signature(method) << '\n';
+    }
+}
+
+/// The named widgets below @p parent. The library's own classes among them are collected in @p classes.
+void describeChildren(QTextStream& out, const QObject& parent, const QString& indent,
+                      QMap<QByteArray, const QMetaObject*>& classes)
+{
+    // Raising a widget reorders the children, and what lies above what is nothing that hosts rely on.
+    QObjectList children = parent.children();
+    std::stable_sort(children.begin(), children.end(),
+                     [](const QObject* a, const QObject* b) { return a->objectName() < b->objectName(); });
+    for (const QObject* child : qAsConst(children)) {
+        const QMetaObject& metaObject = *child->metaObject();
+        const bool isOwn = isOwnClass(metaObject);
+        if (isOwn)
+            classes.insert(metaObject.className(), &metaObject);
+        const QString name = child->objectName();
+        const bool isNamed = !name.isEmpty() && !name.startsWith(QLatin1String("qt_"));
+        if (child->isWidgetType() && (isNamed || isOwn))
+            out << QStringLiteral("%1%2 %3\n").arg(indent, QLatin1String(metaObject.className()), name);
+        describeChildren(out, *child, indent + QStringLiteral("    "), classes);
+    }
+}
+
+void describeDialogs(QTextStream& out, GuiInterface& gui)
+{
+    QMap<QByteArray, const QMetaObject*> classes;
+    for (const Family& family : dialogFamilies()) {
+        IBaseDialog* dialog = family.get(gui, QString());
+        if (!dialog) {
+            out << '\n' << family.name << " is missing\n";
+            continue;
+        }
+        if (family.name == QLatin1String("RemoteConnectionDialog"))
+            family.operation(QStringLiteral("addRemoteControlSession"))
+                .call(*dialog, {QStringLiteral("id"), QStringLiteral("name"), 0, true});
+        const auto& object = dynamic_cast<const QObject&>(*dialog);
+        describeClass(out, *object.metaObject());
+        describeChildren(out, object, QStringLiteral("    "), classes);
+    }
+    for (const QMetaObject* metaObject : qAsConst(classes))
+        describeClass(out, *metaObject);
+}
+} // namespace
+
+/// Writes what hosts rely on, read from the built plugin and the interface headers: contract PLUGIN HEADERS FILE
+int main(int argc, char** argv)
+{
+    prepareTestEnvironment();
+    const QApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    QPluginLoader loader(arguments.value(1));
+    auto* gui = qobject_cast<GuiInterface*>(loader.instance());
+    QFile file(arguments.value(3));
+    if (!gui || !file.open(QIODevice::WriteOnly))
+        qFatal("%s %s", qPrintable(loader.errorString()), qPrintable(file.errorString()));
+
+    QTextStream out(&file);
+    describePlugin(out, arguments.at(1));
+    const QDir headers(arguments.at(2));
+    for (const QString& name : headers.entryList({QStringLiteral("*.h")}, QDir::Files, QDir::Name))
+        describeHeader(out, headers.filePath(name));
+    describeDialogs(out, *gui);
+    return 0;
+}
