@@ -1,6 +1,11 @@
 #include "LowHeading.h"
 
-LowHeading::LowHeading(QWidget* parent) : QLabel(parent)
+#include <QPainter>
+
+void LowHeading::paintEvent(QPaintEvent*)
 {
-    setContentsMargins(0, 0, 0, 2);
+    const QRect letters = fontMetrics().tightBoundingRect(text());
+    QPainter painter(this);
+    painter.setPen(palette().color(foregroundRole()));
+    painter.drawText(0, (height() - letters.height()) / 2 - letters.top(), text());
 }

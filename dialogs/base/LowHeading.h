@@ -2,11 +2,14 @@
 
 #include <QLabel>
 
-/// A heading in a box that is no higher than its letters: the text stands as high as it can, so that those that reach
-/// below the line are not cut.
+/// A heading of one line in a box that is no higher than its letters. A plain label centres the line with the space
+/// above and below it, and so cuts letters that would fit.
 class LowHeading final : public QLabel {
     Q_OBJECT
 
 public:
-    explicit LowHeading(QWidget* parent = nullptr);
+    using QLabel::QLabel;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
 };
