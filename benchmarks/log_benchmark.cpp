@@ -161,7 +161,7 @@ private:
         const int newest = bar->value();
         bar->setValue(bar->maximum() / 2);
         watch.finishTurn();
-        double duration = 0;
+        std::vector<double> durations;
         for (int i = 0; i < measuredFrames; ++i) {
             if (bar->value() + bar->pageStep() >= bar->maximum())
                 bar->setValue(0);
@@ -170,11 +170,12 @@ private:
             const WorkTimer timer;
             bar->setValue(bar->value() + bar->pageStep());
             watch.finishTurn();
-            duration += timer.microseconds() / measuredFrames;
+            durations.push_back(timer.microseconds());
         }
         bar->setValue(newest == 0 ? 0 : bar->maximum());
         watch.finishTurn();
-        return duration;
+        std::nth_element(durations.begin(), durations.begin() + measuredFrames / 2, durations.end());
+        return durations[measuredFrames / 2];
     }
 
     /// A screen shows 60 frames in a second; between two of them there is time.

@@ -1,6 +1,7 @@
 #include "Gallery.h"
 #include "GuiInterface.h"
 #include "LineReader.h"
+#include "PseudoTranslator.h"
 #include "ScriptPlayer.h"
 
 #include <QApplication>
@@ -81,7 +82,9 @@ int main(int argc, char** argv)
     parser.addOptions({
         {QStringLiteral("library"), QStringLiteral("The plugin; beside this program by default."),
          QStringLiteral("path"), QCoreApplication::applicationDirPath() + QStringLiteral("/Gui")},
-        {QStringLiteral("language"), QStringLiteral("Two-letter language of the dialogs (not on Windows)."),
+        {QStringLiteral("language"),
+         QStringLiteral(
+             "Two-letter language of the dialogs (not on Windows), or \"pseudo\": longer, accented English."),
          QStringLiteral("code")},
         {QStringLiteral("ratio"), QStringLiteral("Scale factor of the dialogs."), QStringLiteral("number"),
          QStringLiteral("1")},
@@ -105,6 +108,9 @@ int main(int argc, char** argv)
     if (!gui)
         return complain(loader.errorString(), Failure);
     gui->setRatio(ratio);
+    PseudoTranslator pseudoTranslator;
+    if (parser.value(QStringLiteral("language")) == QLatin1String("pseudo"))
+        QCoreApplication::installTranslator(&pseudoTranslator);
 
     const QString command = arguments.at(0);
     const QString target = arguments.at(1);

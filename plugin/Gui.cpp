@@ -49,6 +49,13 @@ QByteArray eventSignal(const QMetaObject& metaObject)
     }
     return QByteArray();
 }
+
+/// Installs @p translator, once also when an earlier root object has done so.
+void install(QTranslator* translator)
+{
+    QCoreApplication::removeTranslator(translator);
+    QCoreApplication::installTranslator(translator);
+}
 } // namespace
 
 Gui::Gui()
@@ -135,11 +142,17 @@ void Gui::assignStyleSheet(QDialog* dialog)
 
 void Gui::assignTranslations()
 {
+    // Both leave the application when the library is unloaded.
     static QTranslator translator;
-    if (loadTranslation(translator, QStringLiteral(":/translations/Gui_"), QStringLiteral("en")))
-        QCoreApplication::installTranslator(&translator);
-    else
+    static QTranslator qtTranslator;
+    const QString prefix = QStringLiteral(":/translations/Gui_");
+    if (!loadTranslation(translator, prefix, QStringLiteral("en"))) {
         qDebug("GUI TRANSLATIONS NOT LOADED");
+        return;
+    }
+    install(&translator);
+    if (loadQtTranslation(qtTranslator, prefix))
+        install(&qtTranslator);
 }
 
 // The families differ in a type.

@@ -1,5 +1,6 @@
 #include "LogsListAccessible.h"
 
+#include "AccessibleFactory.h"
 #include "LogsListModel.h"
 #include "LogsListView.h"
 
@@ -152,24 +153,9 @@ private:
     /// The rows asked for so far. Rows move down as others are added, so their number cannot name them.
     mutable QHash<QPersistentModelIndex, QAccessible::Id> rows;
 };
-
-QAccessibleInterface* createAccessible(const QString&, QObject* object)
-{
-    auto* view = qobject_cast<LogsListView*>(object);
-    return view ? new LogsListAccessible(view) : nullptr;
-}
 } // namespace
 
 void installLogsListAccessible()
 {
-    static const struct Installation {
-        Installation()
-        {
-            QAccessible::installFactory(createAccessible);
-        }
-        ~Installation()
-        {
-            QAccessible::removeFactory(createAccessible);
-        }
-    } installation;
+    installAccessible<LogsListAccessible, LogsListView>();
 }

@@ -62,7 +62,7 @@ ActivationDialog::ActivationDialog(QWidget* parent) : BaseDialog(parent), ui(new
     connect(ui->btnCancel, &QPushButton::clicked, this, &ActivationDialog::slClose);
     connect(ui->edHost, &QLineEdit::textChanged, this, &ActivationDialog::doEnableOk);
     connect(ui->edToken, &QLineEdit::textChanged, this, &ActivationDialog::doEnableOk);
-    for (QLineEdit* edit : {ui->edHost, ui->edPort, ui->edToken})
+    for (QLineEdit* edit : std::initializer_list<QLineEdit*>{ui->edHost, ui->edPort, ui->edToken})
         watchInsertions(edit);
 
     auto* pasteShortcut = new QShortcut(QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_V), this);

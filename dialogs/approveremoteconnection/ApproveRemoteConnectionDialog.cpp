@@ -214,9 +214,7 @@ void ApproveRemoteConnectionDialog::refreshCountdown()
         Q_EMIT dialogEvent(this, evTimeout);
         return;
     }
-    QPushButton* const button = countdownOnCancel != 0 ? ui->cancelButton : ui->allowButton;
-    const QString label = button->text().split(QLatin1Char('(')).constFirst();
-    button->setText(label + QLatin1Char('(') + QString::number(countdown) + QLatin1Char(')'));
+    (countdownOnCancel != 0 ? ui->cancelButton : ui->allowButton)->setSecondsLeft(countdown);
 }
 
 void ApproveRemoteConnectionDialog::setTitleParts(const QString& session)

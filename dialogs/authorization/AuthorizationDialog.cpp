@@ -1,5 +1,6 @@
 #include "AuthorizationDialog.h"
 
+#include "DisplayText.h"
 #include "HintPicture.h"
 #include "ui_AuthorizationDialog.h"
 
@@ -23,6 +24,8 @@ AuthorizationDialog::AuthorizationDialog(QWidget* parent) : BaseDialog(parent), 
 {
     ui->setupUi(this);
     setupWindow();
+    giveDescendersRoom(ui->label_2);
+    giveDescendersRoom(ui->label1);
     setCaption(ui->lblAppName, ui->lblType, tr("Login"));
     // Translators get the words alone.
     ui->lblWebLink->setText(reminderLink(ui->lblWebLink->text()));

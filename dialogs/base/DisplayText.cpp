@@ -1,6 +1,7 @@
 #include "DisplayText.h"
 
 #include <QFontMetrics>
+#include <QLabel>
 #include <QTextDocument>
 
 #include <algorithm>
@@ -62,4 +63,9 @@ QString literalWindowTitle(const QString& text)
 {
     QString title = text;
     return title.replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+}
+
+void giveDescendersRoom(QLabel* heading)
+{
+    heading->setContentsMargins(0, 0, 0, 2);
 }

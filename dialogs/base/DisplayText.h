@@ -3,6 +3,10 @@
 #include <QString>
 
 QT_BEGIN_NAMESPACE
+class QLabel;
+QT_END_NAMESPACE
+
+QT_BEGIN_NAMESPACE
 class QFontMetrics;
 QT_END_NAMESPACE
 
@@ -24,3 +28,6 @@ QString literalToolTip(const QString& text);
 
 /// @p text as a window title that shows it literally, also when it contains Qt's mark for unsaved changes.
 QString literalWindowTitle(const QString& text);
+
+/// Raises the text of a heading that is as low as its letters, so that those that reach below the line are not cut.
+void giveDescendersRoom(QLabel* heading);

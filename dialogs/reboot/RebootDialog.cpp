@@ -41,6 +41,7 @@ RebootDialog::RebootDialog(QWidget* parent) : BaseDialog(parent), ui(new Ui::Reb
     // The text takes no focus, so its scroll bar does: a long reason can be read to its end without a mouse.
     QScrollBar* scrollBar = ui->rebootReasonLabel->verticalScrollBar();
     scrollBar->setFocusPolicy(Qt::TabFocus);
+    setTabOrder(ui->postponeButton, scrollBar);
     scrollBar->setAccessibleName(ui->rebootReasonLabel->accessibleName());
 
     ui->timeoutComboBox->setFocus(Qt::OtherFocusReason);

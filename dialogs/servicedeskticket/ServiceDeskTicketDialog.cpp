@@ -65,6 +65,9 @@ ServiceDeskTicketDialog::ServiceDeskTicketDialog(QWidget* parent)
     setupWindow();
     setCaption(ui->lblAppName, ui->lblType, tr("Submit ticket"));
     ui->bnSubmit->setEnabled(false);
+    // The default, which also breaks long words, takes time by the square of their length: minutes for a pasted
+    // megabyte.
+    ui->txIssueDetails->setWordWrapMode(QTextOption::WordWrap);
 
     connect(ui->bnSubmit, &QPushButton::clicked, this, &ServiceDeskTicketDialog::slSubmit);
     connect(ui->bnCancel, &QPushButton::clicked, this, &ServiceDeskTicketDialog::slClose);
@@ -190,6 +193,7 @@ void ServiceDeskTicketDialog::setIssueDetailsMaxLength(int length)
 {
     // Longer text that is already there stays until the next edit, which brings it within the limit.
     issueDetailsMaxLength = length;
+    ui->txIssueDetails->setInsertionLimit(length);
     ui->txIssueDetails->setPlaceholderText(placeholder(length));
     updateSubmitButton();
 }
@@ -286,6 +290,7 @@ bool ServiceDeskTicketDialog::confirmDiscard()
 {
     // The host may delete the dialog, and the question with it, while the question waits for its answer.
     const QPointer<QMessageBox> question(new QMessageBox(this));
+    question->setFont(font());
     question->setWindowFlags(question->windowFlags() | Qt::WindowStaysOnTopHint);
     question->setWindowTitle(literalWindowTitle(brandingStrings().companyName + QLatin1String(" Client")));
     question->setTextFormat(Qt::RichText);

@@ -1,5 +1,6 @@
 #include "ZentPasswordDialog.h"
 
+#include "DisplayText.h"
 #include "HintPicture.h"
 #include "ui_ZentPasswordDialog.h"
 
@@ -7,6 +8,8 @@ ZentPasswordDialog::ZentPasswordDialog(QWidget* parent) : BaseDialog(parent), ui
 {
     ui->setupUi(this);
     setupWindow();
+    giveDescendersRoom(ui->label_2);
+    giveDescendersRoom(ui->label1);
     setCaption(ui->lblAppName, ui->lblType, tr("Enter password"));
     ui->btnContinue->setEnabled(false);
 

@@ -9,6 +9,7 @@
     </message>
     <message>
         <source>Tavik</source>
+        <extracomment>Name of the agent; stays as it is</extracomment>
         <translation>Tavik</translation>
     </message>
     <message>
@@ -17,6 +18,7 @@
     </message>
     <message>
         <source>Update now</source>
+        <extracomment>Starts the update of the agent</extracomment>
         <translation>Opdater nu</translation>
     </message>
     <message>
@@ -37,10 +39,12 @@
     </message>
     <message>
         <source>Server:</source>
+        <extracomment>The management server of the agent</extracomment>
         <translation>Server:</translation>
     </message>
     <message>
         <source>n/a</source>
+        <extracomment>Not available</extracomment>
         <translation>ikke tilgængelig</translation>
     </message>
     <message>
@@ -53,10 +57,12 @@
     </message>
     <message>
         <source>About</source>
+        <extracomment>Title of the dialog</extracomment>
         <translation>Om</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>Luk</translation>
     </message>
 </context>
@@ -68,10 +74,14 @@
     </message>
     <message>
         <source>Tavik</source>
+        <extracomment>Name of the agent; stays as it is</extracomment>
         <translation>Tavik</translation>
     </message>
     <message>
         <source>Success</source>
+        <extracomment>Stands in for the message until the host sets one
+----------
+Name of the large picture for screen readers</extracomment>
         <translation>Gennemført</translation>
     </message>
     <message>
@@ -84,6 +94,7 @@
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>Luk</translation>
     </message>
 </context>
@@ -95,6 +106,7 @@
     </message>
     <message>
         <source>Tavik</source>
+        <extracomment>Name of the agent; stays as it is</extracomment>
         <translation>Tavik</translation>
     </message>
     <message>
@@ -117,18 +129,22 @@ for at denne enhed kan administreres</translation>
     </message>
     <message>
         <source>Enroll</source>
+        <extracomment>Both the kind of dialog in its caption and the button that enrolls the device</extracomment>
         <translation>Tilmeld</translation>
     </message>
     <message>
         <source>Host:</source>
+        <extracomment>Label of the field for the name of the server</extracomment>
         <translation>Vært:</translation>
     </message>
     <message>
         <source>Token:</source>
+        <extracomment>Label of the field for the enrollment token, a row of 32 letters and digits</extracomment>
         <translation>Token:</translation>
     </message>
     <message>
         <source>Port:</source>
+        <extracomment>Label of the field for the number of the server&apos;s network port</extracomment>
         <translation>Port:</translation>
     </message>
     <message>
@@ -137,6 +153,7 @@ for at denne enhed kan administreres</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>Luk</translation>
     </message>
 </context>
@@ -144,31 +161,33 @@ for at denne enhed kan administreres</translation>
     <name>ApproveRemoteConnectionDialog</name>
     <message>
         <source>Remote control</source>
+        <extracomment>Kind of remote session in a window title, after the name of the person who asks for it</extracomment>
         <translation>Fjernstyring</translation>
     </message>
     <message>
         <source>Allow</source>
+        <extracomment>Button: lets the remote person in</extracomment>
         <translation>Tillad</translation>
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Button: refuses the remote person</extracomment>
         <translation>Annuller</translation>
     </message>
     <message>
         <source>Remote tools</source>
+        <extracomment>Kind of remote session in a window title, after the name of the person who asks for it</extracomment>
         <translation>Fjernværktøjer</translation>
     </message>
     <message>
         <source>Remote access</source>
+        <extracomment>Kind of remote session in a window title, after the name of the person who asks for it</extracomment>
         <translation>Fjernadgang</translation>
     </message>
     <message>
         <source>Message</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>Meddelelse</translation>
-    </message>
-    <message>
-        <source>Time left to answer in seconds: %1</source>
-        <translation>Resterende svartid i sekunder: %1</translation>
     </message>
     <message numerus="yes">
         <source>%n second(s) left to answer</source>
@@ -186,10 +205,12 @@ for at denne enhed kan administreres</translation>
     </message>
     <message>
         <source>Forgot username or password?</source>
+        <extracomment>Text of a link</extracomment>
         <translation>Glemt brugernavn eller kodeord?</translation>
     </message>
     <message>
         <source>Login</source>
+        <extracomment>Both the kind of dialog in its caption and the button that logs in</extracomment>
         <translation>Log på</translation>
     </message>
     <message>
@@ -218,10 +239,12 @@ for at denne enhed kan administreres</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>Luk</translation>
     </message>
     <message>
         <source>Password</source>
+        <extracomment>Name of a field for screen readers</extracomment>
         <translation>Kodeord</translation>
     </message>
 </context>
@@ -253,10 +276,12 @@ for at denne enhed kan administreres</translation>
     </message>
     <message>
         <source>Domain:</source>
+        <extracomment>Label of the field for the Windows domain</extracomment>
         <translation>Domæne:</translation>
     </message>
     <message>
         <source>Login:</source>
+        <extracomment>Label of the field for the administrator&apos;s account name</extracomment>
         <translation>Bruger:</translation>
     </message>
     <message>
@@ -269,7 +294,18 @@ for at denne enhed kan administreres</translation>
     </message>
     <message>
         <source>Enter password</source>
+        <extracomment>Kind of dialog, at the right of the caption</extracomment>
         <translation>Indtast kodeord</translation>
+    </message>
+    <message>
+        <source>Administrator password</source>
+        <extracomment>Name of a field for screen readers</extracomment>
+        <translation>Administratorens kodeord</translation>
+    </message>
+    <message>
+        <source>Custom password</source>
+        <extracomment>Name of a field for screen readers</extracomment>
+        <translation>Brugerdefineret kodeord</translation>
     </message>
 </context>
 <context>
@@ -280,10 +316,14 @@ for at denne enhed kan administreres</translation>
     </message>
     <message>
         <source>Tavik</source>
+        <extracomment>Name of the agent; stays as it is</extracomment>
         <translation>Tavik</translation>
     </message>
     <message>
         <source>Error</source>
+        <extracomment>Stands in for the message until the host sets one
+----------
+Name of the large picture for screen readers</extracomment>
         <translation>Fejl</translation>
     </message>
     <message>
@@ -296,6 +336,7 @@ for at denne enhed kan administreres</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>Luk</translation>
     </message>
 </context>
@@ -307,6 +348,7 @@ for at denne enhed kan administreres</translation>
     </message>
     <message>
         <source>Tavik</source>
+        <extracomment>Name of the agent; stays as it is</extracomment>
         <translation>Tavik</translation>
     </message>
     <message>
@@ -323,10 +365,12 @@ for at denne enhed kan administreres</translation>
     </message>
     <message>
         <source>Host:</source>
+        <extracomment>Name or address of the proxy server</extracomment>
         <translation>Vært:</translation>
     </message>
     <message>
         <source>Port:</source>
+        <extracomment>Port number of the proxy server</extracomment>
         <translation>Port:</translation>
     </message>
     <message>
@@ -355,10 +399,12 @@ for at denne enhed kan administreres</translation>
     </message>
     <message>
         <source>Options</source>
+        <extracomment>Title of the dialog</extracomment>
         <translation>Indstillinger</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>Luk</translation>
     </message>
 </context>
@@ -370,10 +416,12 @@ for at denne enhed kan administreres</translation>
     </message>
     <message>
         <source>Tavik</source>
+        <extracomment>Name of the agent; stays as it is</extracomment>
         <translation>Tavik</translation>
     </message>
     <message>
         <source>Message</source>
+        <extracomment>Stands in for the message until the host sets one</extracomment>
         <translation>Meddelelse</translation>
     </message>
     <message>
@@ -390,11 +438,18 @@ for at denne enhed kan administreres</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>Luk</translation>
     </message>
     <message>
         <source>Progress</source>
+        <extracomment>Name for screen readers of the turning spinner and of the number in it</extracomment>
         <translation>Status</translation>
+    </message>
+    <message>
+        <source>Please wait</source>
+        <extracomment>Description of the turning spinner for screen readers</extracomment>
+        <translation>Vent venligst</translation>
     </message>
 </context>
 <context>
@@ -413,22 +468,27 @@ for at denne enhed kan administreres</translation>
     </message>
     <message>
         <source>10 minutes</source>
+        <extracomment>Period after which the reminder comes</extracomment>
         <translation>10 minutter</translation>
     </message>
     <message>
         <source>30 minutes</source>
+        <extracomment>Period after which the reminder comes</extracomment>
         <translation>30 minutter</translation>
     </message>
     <message>
         <source>1 hour</source>
+        <extracomment>Period after which the reminder comes</extracomment>
         <translation>1 time</translation>
     </message>
     <message>
         <source>4 hours</source>
+        <extracomment>Period after which the reminder comes</extracomment>
         <translation>4 timer</translation>
     </message>
     <message>
         <source>Remind me in</source>
+        <extracomment>Stands before a list of periods such as &quot;10 minutes&quot;</extracomment>
         <translation>Påmind mig om</translation>
     </message>
     <message>
@@ -437,6 +497,7 @@ for at denne enhed kan administreres</translation>
     </message>
     <message>
         <source>Reason for the restart</source>
+        <extracomment>Name of a text for screen readers</extracomment>
         <translation>Årsag til genstart</translation>
     </message>
 </context>
@@ -460,10 +521,12 @@ for at denne enhed kan administreres</translation>
     </message>
     <message>
         <source>End session</source>
+        <extracomment>Button: stops the remote tools session</extracomment>
         <translation>Afslut session</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Button: closes the area of an ended session</extracomment>
         <translation>Luk</translation>
     </message>
     <message>
@@ -552,7 +615,7 @@ for at denne enhed kan administreres</translation>
     </message>
     <message>
         <source>Session suspended</source>
-        <translation>Session midlertidigt afbrudt</translation>
+        <translation>Session sat på pause</translation>
     </message>
     <message>
         <source>Session resumed</source>
@@ -560,14 +623,17 @@ for at denne enhed kan administreres</translation>
     </message>
     <message>
         <source>Hide window</source>
+        <extracomment>Name of the close button for screen readers</extracomment>
         <translation>Skjul vindue</translation>
     </message>
     <message>
         <source>Show or hide the activity log</source>
+        <extracomment>Tool tip of an arrow</extracomment>
         <translation>Vis eller skjul aktivitetsloggen</translation>
     </message>
     <message>
         <source>Activity log</source>
+        <extracomment>What is done on this computer during the session</extracomment>
         <translation>Aktivitetslog</translation>
     </message>
 </context>
@@ -579,6 +645,7 @@ for at denne enhed kan administreres</translation>
     </message>
     <message>
         <source>Tavik</source>
+        <extracomment>Name of the agent; stays as it is</extracomment>
         <translation>Tavik</translation>
     </message>
     <message>
@@ -611,22 +678,27 @@ for at denne enhed kan administreres</translation>
     </message>
     <message>
         <source>Submit</source>
+        <extracomment>Sends the ticket</extracomment>
         <translation>Indsend</translation>
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Goes back to the ticket</extracomment>
         <translation>Annuller</translation>
     </message>
     <message>
         <source>Required</source>
+        <extracomment>Placeholder of an empty field that must be filled in</extracomment>
         <translation>Påkrævet</translation>
     </message>
     <message>
         <source>Required (max. %1 chars)</source>
+        <extracomment>Placeholder of an empty field that must be filled in</extracomment>
         <translation>Påkrævet (maks. %1 tegn)</translation>
     </message>
     <message>
         <source>Submit ticket</source>
+        <extracomment>Title of the dialog</extracomment>
         <translation>Indsend sag</translation>
     </message>
     <message>
@@ -639,10 +711,12 @@ for at denne enhed kan administreres</translation>
     </message>
     <message>
         <source>Ok</source>
+        <extracomment>Discards the ticket</extracomment>
         <translation>OK</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>Luk</translation>
     </message>
 </context>
@@ -680,10 +754,12 @@ for at fortsætte</translation>
     </message>
     <message>
         <source>Enter password</source>
+        <extracomment>Kind of dialog, at the right of the caption</extracomment>
         <translation>Indtast kodeord</translation>
     </message>
     <message>
         <source>Password</source>
+        <extracomment>Name of a field for screen readers</extracomment>
         <translation>Kodeord</translation>
     </message>
 </context>

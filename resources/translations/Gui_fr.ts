@@ -9,6 +9,7 @@
     </message>
     <message>
         <source>Tavik</source>
+        <extracomment>Name of the agent; stays as it is</extracomment>
         <translation>Tavik</translation>
     </message>
     <message>
@@ -17,6 +18,7 @@
     </message>
     <message>
         <source>Update now</source>
+        <extracomment>Starts the update of the agent</extracomment>
         <translation>Mettre à jour</translation>
     </message>
     <message>
@@ -37,10 +39,12 @@
     </message>
     <message>
         <source>Server:</source>
+        <extracomment>The management server of the agent</extracomment>
         <translation>Serveur&#xa0;:</translation>
     </message>
     <message>
         <source>n/a</source>
+        <extracomment>Not available</extracomment>
         <translation>non disponible</translation>
     </message>
     <message>
@@ -53,10 +57,12 @@
     </message>
     <message>
         <source>About</source>
+        <extracomment>Title of the dialog</extracomment>
         <translation>À propos</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>Fermer</translation>
     </message>
 </context>
@@ -68,10 +74,14 @@
     </message>
     <message>
         <source>Tavik</source>
+        <extracomment>Name of the agent; stays as it is</extracomment>
         <translation>Tavik</translation>
     </message>
     <message>
         <source>Success</source>
+        <extracomment>Stands in for the message until the host sets one
+----------
+Name of the large picture for screen readers</extracomment>
         <translation>Opération réussie</translation>
     </message>
     <message>
@@ -84,6 +94,7 @@
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>Fermer</translation>
     </message>
 </context>
@@ -95,6 +106,7 @@
     </message>
     <message>
         <source>Tavik</source>
+        <extracomment>Name of the agent; stays as it is</extracomment>
         <translation>Tavik</translation>
     </message>
     <message>
@@ -117,18 +129,22 @@ pour gérer cet appareil</translation>
     </message>
     <message>
         <source>Enroll</source>
+        <extracomment>Both the kind of dialog in its caption and the button that enrolls the device</extracomment>
         <translation>Inscrire</translation>
     </message>
     <message>
         <source>Host:</source>
+        <extracomment>Label of the field for the name of the server</extracomment>
         <translation>Hôte&#xa0;:</translation>
     </message>
     <message>
         <source>Token:</source>
+        <extracomment>Label of the field for the enrollment token, a row of 32 letters and digits</extracomment>
         <translation>Jeton&#xa0;:</translation>
     </message>
     <message>
         <source>Port:</source>
+        <extracomment>Label of the field for the number of the server&apos;s network port</extracomment>
         <translation>Port&#xa0;:</translation>
     </message>
     <message>
@@ -137,6 +153,7 @@ pour gérer cet appareil</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>Fermer</translation>
     </message>
 </context>
@@ -144,31 +161,33 @@ pour gérer cet appareil</translation>
     <name>ApproveRemoteConnectionDialog</name>
     <message>
         <source>Remote control</source>
+        <extracomment>Kind of remote session in a window title, after the name of the person who asks for it</extracomment>
         <translation>Contrôle à distance</translation>
     </message>
     <message>
         <source>Allow</source>
+        <extracomment>Button: lets the remote person in</extracomment>
         <translation>Autoriser</translation>
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Button: refuses the remote person</extracomment>
         <translation>Annuler</translation>
     </message>
     <message>
         <source>Remote tools</source>
+        <extracomment>Kind of remote session in a window title, after the name of the person who asks for it</extracomment>
         <translation>Outils à distance</translation>
     </message>
     <message>
         <source>Remote access</source>
+        <extracomment>Kind of remote session in a window title, after the name of the person who asks for it</extracomment>
         <translation>Accès à distance</translation>
     </message>
     <message>
         <source>Message</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>Message</translation>
-    </message>
-    <message>
-        <source>Time left to answer in seconds: %1</source>
-        <translation>Temps restant pour répondre en secondes&#xa0;: %1</translation>
     </message>
     <message numerus="yes">
         <source>%n second(s) left to answer</source>
@@ -186,10 +205,12 @@ pour gérer cet appareil</translation>
     </message>
     <message>
         <source>Forgot username or password?</source>
+        <extracomment>Text of a link</extracomment>
         <translation>Identifiants oubliés&#xa0;?</translation>
     </message>
     <message>
         <source>Login</source>
+        <extracomment>Both the kind of dialog in its caption and the button that logs in</extracomment>
         <translation>Connexion</translation>
     </message>
     <message>
@@ -219,10 +240,12 @@ passe&#xa0;:</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>Fermer</translation>
     </message>
     <message>
         <source>Password</source>
+        <extracomment>Name of a field for screen readers</extracomment>
         <translation>Mot de passe</translation>
     </message>
 </context>
@@ -254,10 +277,12 @@ passe&#xa0;:</translation>
     </message>
     <message>
         <source>Domain:</source>
+        <extracomment>Label of the field for the Windows domain</extracomment>
         <translation>Domaine&#xa0;:</translation>
     </message>
     <message>
         <source>Login:</source>
+        <extracomment>Label of the field for the administrator&apos;s account name</extracomment>
         <translation>Identifiant&#xa0;:</translation>
     </message>
     <message>
@@ -271,7 +296,18 @@ passe&#xa0;:</translation>
     </message>
     <message>
         <source>Enter password</source>
+        <extracomment>Kind of dialog, at the right of the caption</extracomment>
         <translation>Saisir le mot de passe</translation>
+    </message>
+    <message>
+        <source>Administrator password</source>
+        <extracomment>Name of a field for screen readers</extracomment>
+        <translation>Mot de passe de l’administrateur</translation>
+    </message>
+    <message>
+        <source>Custom password</source>
+        <extracomment>Name of a field for screen readers</extracomment>
+        <translation>Mot de passe personnalisé</translation>
     </message>
 </context>
 <context>
@@ -282,10 +318,14 @@ passe&#xa0;:</translation>
     </message>
     <message>
         <source>Tavik</source>
+        <extracomment>Name of the agent; stays as it is</extracomment>
         <translation>Tavik</translation>
     </message>
     <message>
         <source>Error</source>
+        <extracomment>Stands in for the message until the host sets one
+----------
+Name of the large picture for screen readers</extracomment>
         <translation>Erreur</translation>
     </message>
     <message>
@@ -298,6 +338,7 @@ passe&#xa0;:</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>Fermer</translation>
     </message>
 </context>
@@ -309,6 +350,7 @@ passe&#xa0;:</translation>
     </message>
     <message>
         <source>Tavik</source>
+        <extracomment>Name of the agent; stays as it is</extracomment>
         <translation>Tavik</translation>
     </message>
     <message>
@@ -325,10 +367,12 @@ passe&#xa0;:</translation>
     </message>
     <message>
         <source>Host:</source>
+        <extracomment>Name or address of the proxy server</extracomment>
         <translation>Hôte&#xa0;:</translation>
     </message>
     <message>
         <source>Port:</source>
+        <extracomment>Port number of the proxy server</extracomment>
         <translation>Port&#xa0;:</translation>
     </message>
     <message>
@@ -357,10 +401,12 @@ passe&#xa0;:</translation>
     </message>
     <message>
         <source>Options</source>
+        <extracomment>Title of the dialog</extracomment>
         <translation>Options</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>Fermer</translation>
     </message>
 </context>
@@ -372,10 +418,12 @@ passe&#xa0;:</translation>
     </message>
     <message>
         <source>Tavik</source>
+        <extracomment>Name of the agent; stays as it is</extracomment>
         <translation>Tavik</translation>
     </message>
     <message>
         <source>Message</source>
+        <extracomment>Stands in for the message until the host sets one</extracomment>
         <translation>Message</translation>
     </message>
     <message>
@@ -392,11 +440,18 @@ passe&#xa0;:</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>Fermer</translation>
     </message>
     <message>
         <source>Progress</source>
+        <extracomment>Name for screen readers of the turning spinner and of the number in it</extracomment>
         <translation>Progression</translation>
+    </message>
+    <message>
+        <source>Please wait</source>
+        <extracomment>Description of the turning spinner for screen readers</extracomment>
+        <translation>Veuillez patienter</translation>
     </message>
 </context>
 <context>
@@ -415,22 +470,27 @@ passe&#xa0;:</translation>
     </message>
     <message>
         <source>10 minutes</source>
+        <extracomment>Period after which the reminder comes</extracomment>
         <translation>10 minutes</translation>
     </message>
     <message>
         <source>30 minutes</source>
+        <extracomment>Period after which the reminder comes</extracomment>
         <translation>30 minutes</translation>
     </message>
     <message>
         <source>1 hour</source>
+        <extracomment>Period after which the reminder comes</extracomment>
         <translation>1 heure</translation>
     </message>
     <message>
         <source>4 hours</source>
+        <extracomment>Period after which the reminder comes</extracomment>
         <translation>4 heures</translation>
     </message>
     <message>
         <source>Remind me in</source>
+        <extracomment>Stands before a list of periods such as &quot;10 minutes&quot;</extracomment>
         <translation>Me le rappeler dans</translation>
     </message>
     <message>
@@ -439,6 +499,7 @@ passe&#xa0;:</translation>
     </message>
     <message>
         <source>Reason for the restart</source>
+        <extracomment>Name of a text for screen readers</extracomment>
         <translation>Motif du redémarrage</translation>
     </message>
 </context>
@@ -462,10 +523,12 @@ passe&#xa0;:</translation>
     </message>
     <message>
         <source>End session</source>
+        <extracomment>Button: stops the remote tools session</extracomment>
         <translation>Terminer</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Button: closes the area of an ended session</extracomment>
         <translation>Fermer</translation>
     </message>
     <message>
@@ -482,7 +545,7 @@ passe&#xa0;:</translation>
     </message>
     <message>
         <source>Upload aborted</source>
-        <translation>Chargement interrompu</translation>
+        <translation>Chargement arrêté</translation>
     </message>
     <message>
         <source>Upload cancelled</source>
@@ -494,7 +557,7 @@ passe&#xa0;:</translation>
     </message>
     <message>
         <source>Download aborted</source>
-        <translation>Téléchargement interrompu</translation>
+        <translation>Téléchargement arrêté</translation>
     </message>
     <message>
         <source>Download cancelled</source>
@@ -562,14 +625,17 @@ passe&#xa0;:</translation>
     </message>
     <message>
         <source>Hide window</source>
+        <extracomment>Name of the close button for screen readers</extracomment>
         <translation>Masquer la fenêtre</translation>
     </message>
     <message>
         <source>Show or hide the activity log</source>
+        <extracomment>Tool tip of an arrow</extracomment>
         <translation>Afficher ou masquer le journal d’activité</translation>
     </message>
     <message>
         <source>Activity log</source>
+        <extracomment>What is done on this computer during the session</extracomment>
         <translation>Journal d’activité</translation>
     </message>
 </context>
@@ -581,6 +647,7 @@ passe&#xa0;:</translation>
     </message>
     <message>
         <source>Tavik</source>
+        <extracomment>Name of the agent; stays as it is</extracomment>
         <translation>Tavik</translation>
     </message>
     <message>
@@ -613,22 +680,27 @@ passe&#xa0;:</translation>
     </message>
     <message>
         <source>Submit</source>
+        <extracomment>Sends the ticket</extracomment>
         <translation>Envoyer</translation>
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Goes back to the ticket</extracomment>
         <translation>Annuler</translation>
     </message>
     <message>
         <source>Required</source>
+        <extracomment>Placeholder of an empty field that must be filled in</extracomment>
         <translation>Obligatoire</translation>
     </message>
     <message>
         <source>Required (max. %1 chars)</source>
+        <extracomment>Placeholder of an empty field that must be filled in</extracomment>
         <translation>Obligatoire (%1 caractères max.)</translation>
     </message>
     <message>
         <source>Submit ticket</source>
+        <extracomment>Title of the dialog</extracomment>
         <translation>Envoyer un ticket</translation>
     </message>
     <message>
@@ -641,10 +713,12 @@ passe&#xa0;:</translation>
     </message>
     <message>
         <source>Ok</source>
+        <extracomment>Discards the ticket</extracomment>
         <translation>OK</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>Fermer</translation>
     </message>
 </context>
@@ -683,10 +757,12 @@ passe&#xa0;:</translation>
     </message>
     <message>
         <source>Enter password</source>
+        <extracomment>Kind of dialog, at the right of the caption</extracomment>
         <translation>Saisir le mot de passe</translation>
     </message>
     <message>
         <source>Password</source>
+        <extracomment>Name of a field for screen readers</extracomment>
         <translation>Mot de passe</translation>
     </message>
 </context>

@@ -9,6 +9,7 @@
     </message>
     <message>
         <source>Tavik</source>
+        <extracomment>Name of the agent; stays as it is</extracomment>
         <translation>Tavik</translation>
     </message>
     <message>
@@ -17,6 +18,7 @@
     </message>
     <message>
         <source>Update now</source>
+        <extracomment>Starts the update of the agent</extracomment>
         <translation>Aggiorna ora</translation>
     </message>
     <message>
@@ -37,10 +39,12 @@
     </message>
     <message>
         <source>Server:</source>
+        <extracomment>The management server of the agent</extracomment>
         <translation>Server:</translation>
     </message>
     <message>
         <source>n/a</source>
+        <extracomment>Not available</extracomment>
         <translation>non disponibile</translation>
     </message>
     <message>
@@ -53,10 +57,12 @@
     </message>
     <message>
         <source>About</source>
+        <extracomment>Title of the dialog</extracomment>
         <translation>Informazioni</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>Chiudi</translation>
     </message>
 </context>
@@ -68,10 +74,14 @@
     </message>
     <message>
         <source>Tavik</source>
+        <extracomment>Name of the agent; stays as it is</extracomment>
         <translation>Tavik</translation>
     </message>
     <message>
         <source>Success</source>
+        <extracomment>Stands in for the message until the host sets one
+----------
+Name of the large picture for screen readers</extracomment>
         <translation>Operazione riuscita</translation>
     </message>
     <message>
@@ -84,6 +94,7 @@
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>Chiudi</translation>
     </message>
 </context>
@@ -95,6 +106,7 @@
     </message>
     <message>
         <source>Tavik</source>
+        <extracomment>Name of the agent; stays as it is</extracomment>
         <translation>Tavik</translation>
     </message>
     <message>
@@ -117,18 +129,22 @@ per gestire questo dispositivo</translation>
     </message>
     <message>
         <source>Enroll</source>
+        <extracomment>Both the kind of dialog in its caption and the button that enrolls the device</extracomment>
         <translation>Registra</translation>
     </message>
     <message>
         <source>Host:</source>
+        <extracomment>Label of the field for the name of the server</extracomment>
         <translation>Host:</translation>
     </message>
     <message>
         <source>Token:</source>
+        <extracomment>Label of the field for the enrollment token, a row of 32 letters and digits</extracomment>
         <translation>Token:</translation>
     </message>
     <message>
         <source>Port:</source>
+        <extracomment>Label of the field for the number of the server&apos;s network port</extracomment>
         <translation>Porta:</translation>
     </message>
     <message>
@@ -137,6 +153,7 @@ per gestire questo dispositivo</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>Chiudi</translation>
     </message>
 </context>
@@ -144,31 +161,33 @@ per gestire questo dispositivo</translation>
     <name>ApproveRemoteConnectionDialog</name>
     <message>
         <source>Remote control</source>
+        <extracomment>Kind of remote session in a window title, after the name of the person who asks for it</extracomment>
         <translation>Controllo remoto</translation>
     </message>
     <message>
         <source>Allow</source>
+        <extracomment>Button: lets the remote person in</extracomment>
         <translation>Consenti</translation>
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Button: refuses the remote person</extracomment>
         <translation>Annulla</translation>
     </message>
     <message>
         <source>Remote tools</source>
+        <extracomment>Kind of remote session in a window title, after the name of the person who asks for it</extracomment>
         <translation>Strumenti remoti</translation>
     </message>
     <message>
         <source>Remote access</source>
+        <extracomment>Kind of remote session in a window title, after the name of the person who asks for it</extracomment>
         <translation>Accesso remoto</translation>
     </message>
     <message>
         <source>Message</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>Messaggio</translation>
-    </message>
-    <message>
-        <source>Time left to answer in seconds: %1</source>
-        <translation>Tempo rimanente per rispondere in secondi: %1</translation>
     </message>
     <message numerus="yes">
         <source>%n second(s) left to answer</source>
@@ -186,10 +205,12 @@ per gestire questo dispositivo</translation>
     </message>
     <message>
         <source>Forgot username or password?</source>
+        <extracomment>Text of a link</extracomment>
         <translation>Credenziali dimenticate?</translation>
     </message>
     <message>
         <source>Login</source>
+        <extracomment>Both the kind of dialog in its caption and the button that logs in</extracomment>
         <translation>Accedi</translation>
     </message>
     <message>
@@ -218,10 +239,12 @@ per gestire questo dispositivo</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>Chiudi</translation>
     </message>
     <message>
         <source>Password</source>
+        <extracomment>Name of a field for screen readers</extracomment>
         <translation>Password</translation>
     </message>
 </context>
@@ -253,10 +276,12 @@ per gestire questo dispositivo</translation>
     </message>
     <message>
         <source>Domain:</source>
+        <extracomment>Label of the field for the Windows domain</extracomment>
         <translation>Dominio:</translation>
     </message>
     <message>
         <source>Login:</source>
+        <extracomment>Label of the field for the administrator&apos;s account name</extracomment>
         <translation>Utente:</translation>
     </message>
     <message>
@@ -269,7 +294,18 @@ per gestire questo dispositivo</translation>
     </message>
     <message>
         <source>Enter password</source>
+        <extracomment>Kind of dialog, at the right of the caption</extracomment>
         <translation>Immetti password</translation>
+    </message>
+    <message>
+        <source>Administrator password</source>
+        <extracomment>Name of a field for screen readers</extracomment>
+        <translation>Password dell’amministratore</translation>
+    </message>
+    <message>
+        <source>Custom password</source>
+        <extracomment>Name of a field for screen readers</extracomment>
+        <translation>Password personalizzata</translation>
     </message>
 </context>
 <context>
@@ -280,10 +316,14 @@ per gestire questo dispositivo</translation>
     </message>
     <message>
         <source>Tavik</source>
+        <extracomment>Name of the agent; stays as it is</extracomment>
         <translation>Tavik</translation>
     </message>
     <message>
         <source>Error</source>
+        <extracomment>Stands in for the message until the host sets one
+----------
+Name of the large picture for screen readers</extracomment>
         <translation>Errore</translation>
     </message>
     <message>
@@ -296,6 +336,7 @@ per gestire questo dispositivo</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>Chiudi</translation>
     </message>
 </context>
@@ -307,6 +348,7 @@ per gestire questo dispositivo</translation>
     </message>
     <message>
         <source>Tavik</source>
+        <extracomment>Name of the agent; stays as it is</extracomment>
         <translation>Tavik</translation>
     </message>
     <message>
@@ -323,10 +365,12 @@ per gestire questo dispositivo</translation>
     </message>
     <message>
         <source>Host:</source>
+        <extracomment>Name or address of the proxy server</extracomment>
         <translation>Host:</translation>
     </message>
     <message>
         <source>Port:</source>
+        <extracomment>Port number of the proxy server</extracomment>
         <translation>Porta:</translation>
     </message>
     <message>
@@ -355,10 +399,12 @@ per gestire questo dispositivo</translation>
     </message>
     <message>
         <source>Options</source>
+        <extracomment>Title of the dialog</extracomment>
         <translation>Opzioni</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>Chiudi</translation>
     </message>
 </context>
@@ -370,10 +416,12 @@ per gestire questo dispositivo</translation>
     </message>
     <message>
         <source>Tavik</source>
+        <extracomment>Name of the agent; stays as it is</extracomment>
         <translation>Tavik</translation>
     </message>
     <message>
         <source>Message</source>
+        <extracomment>Stands in for the message until the host sets one</extracomment>
         <translation>Messaggio</translation>
     </message>
     <message>
@@ -390,11 +438,18 @@ per gestire questo dispositivo</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>Chiudi</translation>
     </message>
     <message>
         <source>Progress</source>
+        <extracomment>Name for screen readers of the turning spinner and of the number in it</extracomment>
         <translation>Avanzamento</translation>
+    </message>
+    <message>
+        <source>Please wait</source>
+        <extracomment>Description of the turning spinner for screen readers</extracomment>
+        <translation>Attendere</translation>
     </message>
 </context>
 <context>
@@ -413,22 +468,27 @@ per gestire questo dispositivo</translation>
     </message>
     <message>
         <source>10 minutes</source>
+        <extracomment>Period after which the reminder comes</extracomment>
         <translation>10 minuti</translation>
     </message>
     <message>
         <source>30 minutes</source>
+        <extracomment>Period after which the reminder comes</extracomment>
         <translation>30 minuti</translation>
     </message>
     <message>
         <source>1 hour</source>
+        <extracomment>Period after which the reminder comes</extracomment>
         <translation>1 ora</translation>
     </message>
     <message>
         <source>4 hours</source>
+        <extracomment>Period after which the reminder comes</extracomment>
         <translation>4 ore</translation>
     </message>
     <message>
         <source>Remind me in</source>
+        <extracomment>Stands before a list of periods such as &quot;10 minutes&quot;</extracomment>
         <translation>Ricordamelo tra</translation>
     </message>
     <message>
@@ -437,6 +497,7 @@ per gestire questo dispositivo</translation>
     </message>
     <message>
         <source>Reason for the restart</source>
+        <extracomment>Name of a text for screen readers</extracomment>
         <translation>Motivo del riavvio</translation>
     </message>
 </context>
@@ -460,10 +521,12 @@ per gestire questo dispositivo</translation>
     </message>
     <message>
         <source>End session</source>
+        <extracomment>Button: stops the remote tools session</extracomment>
         <translation>Termina sessione</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Button: closes the area of an ended session</extracomment>
         <translation>Chiudi</translation>
     </message>
     <message>
@@ -560,14 +623,17 @@ per gestire questo dispositivo</translation>
     </message>
     <message>
         <source>Hide window</source>
+        <extracomment>Name of the close button for screen readers</extracomment>
         <translation>Nascondi finestra</translation>
     </message>
     <message>
         <source>Show or hide the activity log</source>
+        <extracomment>Tool tip of an arrow</extracomment>
         <translation>Mostra o nascondi il registro attività</translation>
     </message>
     <message>
         <source>Activity log</source>
+        <extracomment>What is done on this computer during the session</extracomment>
         <translation>Registro attività</translation>
     </message>
 </context>
@@ -579,6 +645,7 @@ per gestire questo dispositivo</translation>
     </message>
     <message>
         <source>Tavik</source>
+        <extracomment>Name of the agent; stays as it is</extracomment>
         <translation>Tavik</translation>
     </message>
     <message>
@@ -611,22 +678,27 @@ per gestire questo dispositivo</translation>
     </message>
     <message>
         <source>Submit</source>
+        <extracomment>Sends the ticket</extracomment>
         <translation>Invia</translation>
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Goes back to the ticket</extracomment>
         <translation>Annulla</translation>
     </message>
     <message>
         <source>Required</source>
+        <extracomment>Placeholder of an empty field that must be filled in</extracomment>
         <translation>Obbligatorio</translation>
     </message>
     <message>
         <source>Required (max. %1 chars)</source>
+        <extracomment>Placeholder of an empty field that must be filled in</extracomment>
         <translation>Obbligatorio (max. %1 caratteri)</translation>
     </message>
     <message>
         <source>Submit ticket</source>
+        <extracomment>Title of the dialog</extracomment>
         <translation>Invia ticket</translation>
     </message>
     <message>
@@ -639,10 +711,12 @@ per gestire questo dispositivo</translation>
     </message>
     <message>
         <source>Ok</source>
+        <extracomment>Discards the ticket</extracomment>
         <translation>OK</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>Chiudi</translation>
     </message>
 </context>
@@ -680,10 +754,12 @@ per continuare</translation>
     </message>
     <message>
         <source>Enter password</source>
+        <extracomment>Kind of dialog, at the right of the caption</extracomment>
         <translation>Immetti password</translation>
     </message>
     <message>
         <source>Password</source>
+        <extracomment>Name of a field for screen readers</extracomment>
         <translation>Password</translation>
     </message>
 </context>

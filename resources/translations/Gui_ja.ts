@@ -9,6 +9,7 @@
     </message>
     <message>
         <source>Tavik</source>
+        <extracomment>Name of the agent; stays as it is</extracomment>
         <translation>Tavik</translation>
     </message>
     <message>
@@ -17,6 +18,7 @@
     </message>
     <message>
         <source>Update now</source>
+        <extracomment>Starts the update of the agent</extracomment>
         <translation>今すぐ更新</translation>
     </message>
     <message>
@@ -37,10 +39,12 @@
     </message>
     <message>
         <source>Server:</source>
+        <extracomment>The management server of the agent</extracomment>
         <translation>サーバー:</translation>
     </message>
     <message>
         <source>n/a</source>
+        <extracomment>Not available</extracomment>
         <translation>情報なし</translation>
     </message>
     <message>
@@ -53,10 +57,12 @@
     </message>
     <message>
         <source>About</source>
+        <extracomment>Title of the dialog</extracomment>
         <translation>バージョン情報</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>閉じる</translation>
     </message>
 </context>
@@ -68,10 +74,14 @@
     </message>
     <message>
         <source>Tavik</source>
+        <extracomment>Name of the agent; stays as it is</extracomment>
         <translation>Tavik</translation>
     </message>
     <message>
         <source>Success</source>
+        <extracomment>Stands in for the message until the host sets one
+----------
+Name of the large picture for screen readers</extracomment>
         <translation>成功</translation>
     </message>
     <message>
@@ -84,6 +94,7 @@
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>閉じる</translation>
     </message>
 </context>
@@ -95,6 +106,7 @@
     </message>
     <message>
         <source>Tavik</source>
+        <extracomment>Name of the agent; stays as it is</extracomment>
         <translation>Tavik</translation>
     </message>
     <message>
@@ -117,18 +129,22 @@ Tavik の登録が必要です</translation>
     </message>
     <message>
         <source>Enroll</source>
+        <extracomment>Both the kind of dialog in its caption and the button that enrolls the device</extracomment>
         <translation>登録</translation>
     </message>
     <message>
         <source>Host:</source>
+        <extracomment>Label of the field for the name of the server</extracomment>
         <translation>ホスト</translation>
     </message>
     <message>
         <source>Token:</source>
+        <extracomment>Label of the field for the enrollment token, a row of 32 letters and digits</extracomment>
         <translation>トークン</translation>
     </message>
     <message>
         <source>Port:</source>
+        <extracomment>Label of the field for the number of the server&apos;s network port</extracomment>
         <translation>ポート</translation>
     </message>
     <message>
@@ -137,6 +153,7 @@ Tavik の登録が必要です</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>閉じる</translation>
     </message>
 </context>
@@ -144,31 +161,33 @@ Tavik の登録が必要です</translation>
     <name>ApproveRemoteConnectionDialog</name>
     <message>
         <source>Remote control</source>
+        <extracomment>Kind of remote session in a window title, after the name of the person who asks for it</extracomment>
         <translation>リモート コントロール</translation>
     </message>
     <message>
         <source>Allow</source>
+        <extracomment>Button: lets the remote person in</extracomment>
         <translation>許可</translation>
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Button: refuses the remote person</extracomment>
         <translation>キャンセル</translation>
     </message>
     <message>
         <source>Remote tools</source>
+        <extracomment>Kind of remote session in a window title, after the name of the person who asks for it</extracomment>
         <translation>リモート ツール</translation>
     </message>
     <message>
         <source>Remote access</source>
+        <extracomment>Kind of remote session in a window title, after the name of the person who asks for it</extracomment>
         <translation>リモート アクセス</translation>
     </message>
     <message>
         <source>Message</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>メッセージ</translation>
-    </message>
-    <message>
-        <source>Time left to answer in seconds: %1</source>
-        <translation>応答までの残り時間 (秒): %1</translation>
     </message>
     <message numerus="yes">
         <source>%n second(s) left to answer</source>
@@ -185,10 +204,12 @@ Tavik の登録が必要です</translation>
     </message>
     <message>
         <source>Forgot username or password?</source>
+        <extracomment>Text of a link</extracomment>
         <translation>ログイン情報をお忘れですか?</translation>
     </message>
     <message>
         <source>Login</source>
+        <extracomment>Both the kind of dialog in its caption and the button that logs in</extracomment>
         <translation>ログイン</translation>
     </message>
     <message>
@@ -217,10 +238,12 @@ Tavik の登録が必要です</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>閉じる</translation>
     </message>
     <message>
         <source>Password</source>
+        <extracomment>Name of a field for screen readers</extracomment>
         <translation>パスワード</translation>
     </message>
 </context>
@@ -252,10 +275,12 @@ Tavik の登録が必要です</translation>
     </message>
     <message>
         <source>Domain:</source>
+        <extracomment>Label of the field for the Windows domain</extracomment>
         <translation>ドメイン</translation>
     </message>
     <message>
         <source>Login:</source>
+        <extracomment>Label of the field for the administrator&apos;s account name</extracomment>
         <translation>ユーザー名</translation>
     </message>
     <message>
@@ -268,7 +293,18 @@ Tavik の登録が必要です</translation>
     </message>
     <message>
         <source>Enter password</source>
+        <extracomment>Kind of dialog, at the right of the caption</extracomment>
         <translation>パスワードの入力</translation>
+    </message>
+    <message>
+        <source>Administrator password</source>
+        <extracomment>Name of a field for screen readers</extracomment>
+        <translation>管理者のパスワード</translation>
+    </message>
+    <message>
+        <source>Custom password</source>
+        <extracomment>Name of a field for screen readers</extracomment>
+        <translation>カスタム パスワード</translation>
     </message>
 </context>
 <context>
@@ -279,10 +315,14 @@ Tavik の登録が必要です</translation>
     </message>
     <message>
         <source>Tavik</source>
+        <extracomment>Name of the agent; stays as it is</extracomment>
         <translation>Tavik</translation>
     </message>
     <message>
         <source>Error</source>
+        <extracomment>Stands in for the message until the host sets one
+----------
+Name of the large picture for screen readers</extracomment>
         <translation>エラー</translation>
     </message>
     <message>
@@ -295,6 +335,7 @@ Tavik の登録が必要です</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>閉じる</translation>
     </message>
 </context>
@@ -306,6 +347,7 @@ Tavik の登録が必要です</translation>
     </message>
     <message>
         <source>Tavik</source>
+        <extracomment>Name of the agent; stays as it is</extracomment>
         <translation>Tavik</translation>
     </message>
     <message>
@@ -322,10 +364,12 @@ Tavik の登録が必要です</translation>
     </message>
     <message>
         <source>Host:</source>
+        <extracomment>Name or address of the proxy server</extracomment>
         <translation>ホスト</translation>
     </message>
     <message>
         <source>Port:</source>
+        <extracomment>Port number of the proxy server</extracomment>
         <translation>ポート</translation>
     </message>
     <message>
@@ -354,10 +398,12 @@ Tavik の登録が必要です</translation>
     </message>
     <message>
         <source>Options</source>
+        <extracomment>Title of the dialog</extracomment>
         <translation>オプション</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>閉じる</translation>
     </message>
 </context>
@@ -369,10 +415,12 @@ Tavik の登録が必要です</translation>
     </message>
     <message>
         <source>Tavik</source>
+        <extracomment>Name of the agent; stays as it is</extracomment>
         <translation>Tavik</translation>
     </message>
     <message>
         <source>Message</source>
+        <extracomment>Stands in for the message until the host sets one</extracomment>
         <translation>メッセージ</translation>
     </message>
     <message>
@@ -389,11 +437,18 @@ Tavik の登録が必要です</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>閉じる</translation>
     </message>
     <message>
         <source>Progress</source>
+        <extracomment>Name for screen readers of the turning spinner and of the number in it</extracomment>
         <translation>進行状況</translation>
+    </message>
+    <message>
+        <source>Please wait</source>
+        <extracomment>Description of the turning spinner for screen readers</extracomment>
+        <translation>お待ちください</translation>
     </message>
 </context>
 <context>
@@ -412,22 +467,27 @@ Tavik の登録が必要です</translation>
     </message>
     <message>
         <source>10 minutes</source>
+        <extracomment>Period after which the reminder comes</extracomment>
         <translation>10 分後</translation>
     </message>
     <message>
         <source>30 minutes</source>
+        <extracomment>Period after which the reminder comes</extracomment>
         <translation>30 分後</translation>
     </message>
     <message>
         <source>1 hour</source>
+        <extracomment>Period after which the reminder comes</extracomment>
         <translation>1 時間後</translation>
     </message>
     <message>
         <source>4 hours</source>
+        <extracomment>Period after which the reminder comes</extracomment>
         <translation>4 時間後</translation>
     </message>
     <message>
         <source>Remind me in</source>
+        <extracomment>Stands before a list of periods such as &quot;10 minutes&quot;</extracomment>
         <translation>再通知</translation>
     </message>
     <message>
@@ -436,6 +496,7 @@ Tavik の登録が必要です</translation>
     </message>
     <message>
         <source>Reason for the restart</source>
+        <extracomment>Name of a text for screen readers</extracomment>
         <translation>再起動の理由</translation>
     </message>
 </context>
@@ -459,10 +520,12 @@ Tavik の登録が必要です</translation>
     </message>
     <message>
         <source>End session</source>
+        <extracomment>Button: stops the remote tools session</extracomment>
         <translation>セッション終了</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Button: closes the area of an ended session</extracomment>
         <translation>閉じる</translation>
     </message>
     <message>
@@ -475,7 +538,7 @@ Tavik の登録が必要です</translation>
     </message>
     <message>
         <source>File uploaded</source>
-        <translation>ファイルをアップロードしました</translation>
+        <translation>ファイルのアップロード完了</translation>
     </message>
     <message>
         <source>Upload aborted</source>
@@ -483,11 +546,11 @@ Tavik の登録が必要です</translation>
     </message>
     <message>
         <source>Upload cancelled</source>
-        <translation>アップロードがキャンセルされました</translation>
+        <translation>アップロードをキャンセル済み</translation>
     </message>
     <message>
         <source>File downloaded</source>
-        <translation>ファイルをダウンロードしました</translation>
+        <translation>ファイルのダウンロード完了</translation>
     </message>
     <message>
         <source>Download aborted</source>
@@ -495,15 +558,15 @@ Tavik の登録が必要です</translation>
     </message>
     <message>
         <source>Download cancelled</source>
-        <translation>ダウンロードがキャンセルされました</translation>
+        <translation>ダウンロードをキャンセル済み</translation>
     </message>
     <message>
         <source>Folder uploaded</source>
-        <translation>フォルダーをアップロードしました</translation>
+        <translation>フォルダーのアップロード完了</translation>
     </message>
     <message>
         <source>Folder downloaded</source>
-        <translation>フォルダーをダウンロードしました</translation>
+        <translation>フォルダーのダウンロード完了</translation>
     </message>
     <message>
         <source>File deleted</source>
@@ -559,14 +622,17 @@ Tavik の登録が必要です</translation>
     </message>
     <message>
         <source>Hide window</source>
+        <extracomment>Name of the close button for screen readers</extracomment>
         <translation>ウィンドウを非表示にする</translation>
     </message>
     <message>
         <source>Show or hide the activity log</source>
+        <extracomment>Tool tip of an arrow</extracomment>
         <translation>操作ログの表示と非表示を切り替える</translation>
     </message>
     <message>
         <source>Activity log</source>
+        <extracomment>What is done on this computer during the session</extracomment>
         <translation>操作ログ</translation>
     </message>
 </context>
@@ -578,6 +644,7 @@ Tavik の登録が必要です</translation>
     </message>
     <message>
         <source>Tavik</source>
+        <extracomment>Name of the agent; stays as it is</extracomment>
         <translation>Tavik</translation>
     </message>
     <message>
@@ -610,22 +677,27 @@ Tavik の登録が必要です</translation>
     </message>
     <message>
         <source>Submit</source>
+        <extracomment>Sends the ticket</extracomment>
         <translation>送信</translation>
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Goes back to the ticket</extracomment>
         <translation>キャンセル</translation>
     </message>
     <message>
         <source>Required</source>
+        <extracomment>Placeholder of an empty field that must be filled in</extracomment>
         <translation>必須</translation>
     </message>
     <message>
         <source>Required (max. %1 chars)</source>
+        <extracomment>Placeholder of an empty field that must be filled in</extracomment>
         <translation>必須 (最大 %1 文字)</translation>
     </message>
     <message>
         <source>Submit ticket</source>
+        <extracomment>Title of the dialog</extracomment>
         <translation>チケットの送信</translation>
     </message>
     <message>
@@ -638,10 +710,12 @@ Tavik の登録が必要です</translation>
     </message>
     <message>
         <source>Ok</source>
+        <extracomment>Discards the ticket</extracomment>
         <translation>OK</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>閉じる</translation>
     </message>
 </context>
@@ -679,10 +753,12 @@ in order to continue</source>
     </message>
     <message>
         <source>Enter password</source>
+        <extracomment>Kind of dialog, at the right of the caption</extracomment>
         <translation>パスワードの入力</translation>
     </message>
     <message>
         <source>Password</source>
+        <extracomment>Name of a field for screen readers</extracomment>
         <translation>パスワード</translation>
     </message>
 </context>

@@ -9,6 +9,7 @@
     </message>
     <message>
         <source>Tavik</source>
+        <extracomment>Name of the agent; stays as it is</extracomment>
         <translation>Tavik</translation>
     </message>
     <message>
@@ -17,6 +18,7 @@
     </message>
     <message>
         <source>Update now</source>
+        <extracomment>Starts the update of the agent</extracomment>
         <translation>지금 업데이트</translation>
     </message>
     <message>
@@ -37,10 +39,12 @@
     </message>
     <message>
         <source>Server:</source>
+        <extracomment>The management server of the agent</extracomment>
         <translation>서버:</translation>
     </message>
     <message>
         <source>n/a</source>
+        <extracomment>Not available</extracomment>
         <translation>정보 없음</translation>
     </message>
     <message>
@@ -53,10 +57,12 @@
     </message>
     <message>
         <source>About</source>
+        <extracomment>Title of the dialog</extracomment>
         <translation>정보</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>닫기</translation>
     </message>
 </context>
@@ -68,10 +74,14 @@
     </message>
     <message>
         <source>Tavik</source>
+        <extracomment>Name of the agent; stays as it is</extracomment>
         <translation>Tavik</translation>
     </message>
     <message>
         <source>Success</source>
+        <extracomment>Stands in for the message until the host sets one
+----------
+Name of the large picture for screen readers</extracomment>
         <translation>성공</translation>
     </message>
     <message>
@@ -84,6 +94,7 @@
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>닫기</translation>
     </message>
 </context>
@@ -95,6 +106,7 @@
     </message>
     <message>
         <source>Tavik</source>
+        <extracomment>Name of the agent; stays as it is</extracomment>
         <translation>Tavik</translation>
     </message>
     <message>
@@ -117,18 +129,22 @@ Tavik을 등록해야 합니다</translation>
     </message>
     <message>
         <source>Enroll</source>
+        <extracomment>Both the kind of dialog in its caption and the button that enrolls the device</extracomment>
         <translation>등록</translation>
     </message>
     <message>
         <source>Host:</source>
+        <extracomment>Label of the field for the name of the server</extracomment>
         <translation>호스트:</translation>
     </message>
     <message>
         <source>Token:</source>
+        <extracomment>Label of the field for the enrollment token, a row of 32 letters and digits</extracomment>
         <translation>토큰:</translation>
     </message>
     <message>
         <source>Port:</source>
+        <extracomment>Label of the field for the number of the server&apos;s network port</extracomment>
         <translation>포트:</translation>
     </message>
     <message>
@@ -137,6 +153,7 @@ Tavik을 등록해야 합니다</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>닫기</translation>
     </message>
 </context>
@@ -144,31 +161,33 @@ Tavik을 등록해야 합니다</translation>
     <name>ApproveRemoteConnectionDialog</name>
     <message>
         <source>Remote control</source>
+        <extracomment>Kind of remote session in a window title, after the name of the person who asks for it</extracomment>
         <translation>원격 제어</translation>
     </message>
     <message>
         <source>Allow</source>
+        <extracomment>Button: lets the remote person in</extracomment>
         <translation>허용</translation>
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Button: refuses the remote person</extracomment>
         <translation>취소</translation>
     </message>
     <message>
         <source>Remote tools</source>
+        <extracomment>Kind of remote session in a window title, after the name of the person who asks for it</extracomment>
         <translation>원격 도구</translation>
     </message>
     <message>
         <source>Remote access</source>
+        <extracomment>Kind of remote session in a window title, after the name of the person who asks for it</extracomment>
         <translation>원격 액세스</translation>
     </message>
     <message>
         <source>Message</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>메시지</translation>
-    </message>
-    <message>
-        <source>Time left to answer in seconds: %1</source>
-        <translation>응답까지 남은 시간(초): %1</translation>
     </message>
     <message numerus="yes">
         <source>%n second(s) left to answer</source>
@@ -185,10 +204,12 @@ Tavik을 등록해야 합니다</translation>
     </message>
     <message>
         <source>Forgot username or password?</source>
+        <extracomment>Text of a link</extracomment>
         <translation>로그인 정보를 잊으셨습니까?</translation>
     </message>
     <message>
         <source>Login</source>
+        <extracomment>Both the kind of dialog in its caption and the button that logs in</extracomment>
         <translation>로그인</translation>
     </message>
     <message>
@@ -217,10 +238,12 @@ Tavik을 등록해야 합니다</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>닫기</translation>
     </message>
     <message>
         <source>Password</source>
+        <extracomment>Name of a field for screen readers</extracomment>
         <translation>암호</translation>
     </message>
 </context>
@@ -252,10 +275,12 @@ Tavik을 등록해야 합니다</translation>
     </message>
     <message>
         <source>Domain:</source>
+        <extracomment>Label of the field for the Windows domain</extracomment>
         <translation>도메인:</translation>
     </message>
     <message>
         <source>Login:</source>
+        <extracomment>Label of the field for the administrator&apos;s account name</extracomment>
         <translation>사용자명:</translation>
     </message>
     <message>
@@ -268,7 +293,18 @@ Tavik을 등록해야 합니다</translation>
     </message>
     <message>
         <source>Enter password</source>
+        <extracomment>Kind of dialog, at the right of the caption</extracomment>
         <translation>암호 입력</translation>
+    </message>
+    <message>
+        <source>Administrator password</source>
+        <extracomment>Name of a field for screen readers</extracomment>
+        <translation>관리자 암호</translation>
+    </message>
+    <message>
+        <source>Custom password</source>
+        <extracomment>Name of a field for screen readers</extracomment>
+        <translation>사용자 지정 암호</translation>
     </message>
 </context>
 <context>
@@ -279,10 +315,14 @@ Tavik을 등록해야 합니다</translation>
     </message>
     <message>
         <source>Tavik</source>
+        <extracomment>Name of the agent; stays as it is</extracomment>
         <translation>Tavik</translation>
     </message>
     <message>
         <source>Error</source>
+        <extracomment>Stands in for the message until the host sets one
+----------
+Name of the large picture for screen readers</extracomment>
         <translation>오류</translation>
     </message>
     <message>
@@ -295,6 +335,7 @@ Tavik을 등록해야 합니다</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>닫기</translation>
     </message>
 </context>
@@ -306,6 +347,7 @@ Tavik을 등록해야 합니다</translation>
     </message>
     <message>
         <source>Tavik</source>
+        <extracomment>Name of the agent; stays as it is</extracomment>
         <translation>Tavik</translation>
     </message>
     <message>
@@ -322,10 +364,12 @@ Tavik을 등록해야 합니다</translation>
     </message>
     <message>
         <source>Host:</source>
+        <extracomment>Name or address of the proxy server</extracomment>
         <translation>호스트:</translation>
     </message>
     <message>
         <source>Port:</source>
+        <extracomment>Port number of the proxy server</extracomment>
         <translation>포트:</translation>
     </message>
     <message>
@@ -354,10 +398,12 @@ Tavik을 등록해야 합니다</translation>
     </message>
     <message>
         <source>Options</source>
+        <extracomment>Title of the dialog</extracomment>
         <translation>옵션</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>닫기</translation>
     </message>
 </context>
@@ -369,10 +415,12 @@ Tavik을 등록해야 합니다</translation>
     </message>
     <message>
         <source>Tavik</source>
+        <extracomment>Name of the agent; stays as it is</extracomment>
         <translation>Tavik</translation>
     </message>
     <message>
         <source>Message</source>
+        <extracomment>Stands in for the message until the host sets one</extracomment>
         <translation>메시지</translation>
     </message>
     <message>
@@ -389,11 +437,18 @@ Tavik을 등록해야 합니다</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>닫기</translation>
     </message>
     <message>
         <source>Progress</source>
+        <extracomment>Name for screen readers of the turning spinner and of the number in it</extracomment>
         <translation>진행 상황</translation>
+    </message>
+    <message>
+        <source>Please wait</source>
+        <extracomment>Description of the turning spinner for screen readers</extracomment>
+        <translation>잠시 기다려 주십시오</translation>
     </message>
 </context>
 <context>
@@ -412,22 +467,27 @@ Tavik을 등록해야 합니다</translation>
     </message>
     <message>
         <source>10 minutes</source>
+        <extracomment>Period after which the reminder comes</extracomment>
         <translation>10분 후</translation>
     </message>
     <message>
         <source>30 minutes</source>
+        <extracomment>Period after which the reminder comes</extracomment>
         <translation>30분 후</translation>
     </message>
     <message>
         <source>1 hour</source>
+        <extracomment>Period after which the reminder comes</extracomment>
         <translation>1시간 후</translation>
     </message>
     <message>
         <source>4 hours</source>
+        <extracomment>Period after which the reminder comes</extracomment>
         <translation>4시간 후</translation>
     </message>
     <message>
         <source>Remind me in</source>
+        <extracomment>Stands before a list of periods such as &quot;10 minutes&quot;</extracomment>
         <translation>다시 알림</translation>
     </message>
     <message>
@@ -436,6 +496,7 @@ Tavik을 등록해야 합니다</translation>
     </message>
     <message>
         <source>Reason for the restart</source>
+        <extracomment>Name of a text for screen readers</extracomment>
         <translation>다시 시작해야 하는 이유</translation>
     </message>
 </context>
@@ -459,10 +520,12 @@ Tavik을 등록해야 합니다</translation>
     </message>
     <message>
         <source>End session</source>
+        <extracomment>Button: stops the remote tools session</extracomment>
         <translation>세션 종료</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Button: closes the area of an ended session</extracomment>
         <translation>닫기</translation>
     </message>
     <message>
@@ -559,14 +622,17 @@ Tavik을 등록해야 합니다</translation>
     </message>
     <message>
         <source>Hide window</source>
+        <extracomment>Name of the close button for screen readers</extracomment>
         <translation>창 숨기기</translation>
     </message>
     <message>
         <source>Show or hide the activity log</source>
+        <extracomment>Tool tip of an arrow</extracomment>
         <translation>활동 로그 표시 또는 숨기기</translation>
     </message>
     <message>
         <source>Activity log</source>
+        <extracomment>What is done on this computer during the session</extracomment>
         <translation>활동 로그</translation>
     </message>
 </context>
@@ -578,6 +644,7 @@ Tavik을 등록해야 합니다</translation>
     </message>
     <message>
         <source>Tavik</source>
+        <extracomment>Name of the agent; stays as it is</extracomment>
         <translation>Tavik</translation>
     </message>
     <message>
@@ -610,22 +677,27 @@ Tavik을 등록해야 합니다</translation>
     </message>
     <message>
         <source>Submit</source>
+        <extracomment>Sends the ticket</extracomment>
         <translation>제출</translation>
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Goes back to the ticket</extracomment>
         <translation>취소</translation>
     </message>
     <message>
         <source>Required</source>
+        <extracomment>Placeholder of an empty field that must be filled in</extracomment>
         <translation>필수</translation>
     </message>
     <message>
         <source>Required (max. %1 chars)</source>
+        <extracomment>Placeholder of an empty field that must be filled in</extracomment>
         <translation>필수(최대 %1자)</translation>
     </message>
     <message>
         <source>Submit ticket</source>
+        <extracomment>Title of the dialog</extracomment>
         <translation>티켓 제출</translation>
     </message>
     <message>
@@ -638,10 +710,12 @@ Tavik을 등록해야 합니다</translation>
     </message>
     <message>
         <source>Ok</source>
+        <extracomment>Discards the ticket</extracomment>
         <translation>확인</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Name for screen readers</extracomment>
         <translation>닫기</translation>
     </message>
 </context>
@@ -679,10 +753,12 @@ in order to continue</source>
     </message>
     <message>
         <source>Enter password</source>
+        <extracomment>Kind of dialog, at the right of the caption</extracomment>
         <translation>암호 입력</translation>
     </message>
     <message>
         <source>Password</source>
+        <extracomment>Name of a field for screen readers</extracomment>
         <translation>암호</translation>
     </message>
 </context>

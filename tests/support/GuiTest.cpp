@@ -9,11 +9,10 @@ QStringList warnings;
 
 void recordMessage(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
-    // What the offscreen platform cannot do is no fault of the library.
-    if (message == QLatin1String("This plugin does not support raise()"))
-        return;
     allMessages << message;
-    if (type == QtWarningMsg || type == QtCriticalMsg)
+    // The offscreen platform says so when a window is raised or a message box is shown.
+    const bool fromPlatform = message.startsWith(QLatin1String("This plugin does not support "));
+    if ((type == QtWarningMsg || type == QtCriticalMsg) && !fromPlatform)
         warnings << message;
     else
         previousHandler(type, context, message);

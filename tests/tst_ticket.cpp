@@ -1,0 +1,489 @@
+#include "GuiTest.h"
+#include "IServiceDeskTicketDialog.h"
+
+#include <QCheckBox>
+#include <QClipboard>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QPointer>
+#include <QPushButton>
+#include <QTextEdit>
+#include <QTimer>
+
+#include <functional>
+#include <limits>
+
+namespace {
+const QString submitted = QStringLiteral("evSubmit");
+const QString cancelled = QStringLiteral("evCancel");
+const QString smiley = QStringLiteral("\U0001F600");
+const QString accentedE = QStringLiteral("e\u0301");
+} // namespace
+
+/// The ticket form: what may be submitted, what its limits keep out, and that nothing typed gets lost unasked.
+class TicketTest : public GuiTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void submitNeedsSubjectAndDetails();
+    void submitKeys_data();
+    void submitKeys();
+    void hostMayAnswerByAccepting();
+    void untouchedFormCloses_data();
+    void untouchedFormCloses();
+    void editsAreNotLostUnasked_data();
+    void editsAreNotLostUnasked();
+    void discardQuestion();
+    void dialogDeletedDuringQuestion();
+    void hostValuesAreNoEdits();
+    void choices();
+    void limitValues_data();
+    void limitValues();
+    void detailsLimit_data();
+    void detailsLimit();
+    void typingAtTheLimit_data();
+    void typingAtTheLimit();
+    void undoAfterCut();
+    void subjectLimit_data();
+    void subjectLimit();
+    void lateLimitKeepsDetails();
+    void detailsAreNeverMarkup();
+    void keyboardReachesEverything();
+
+private:
+    /// Answers the discard question, which must come.
+    void answerNext(QMessageBox::StandardButton button);
+    static void paste(QWidget& field, const QString& text);
+    static QMessageBox* question()
+    {
+        return qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    }
+};
+
+void TicketTest::answerNext(QMessageBox::StandardButton button)
+{
+    QTimer::singleShot(0, this, [button] {
+        QVERIFY(question());
+        QTest::mouseClick(question()->button(button), Qt::LeftButton);
+    });
+}
+
+void TicketTest::paste(QWidget& field, const QString& text)
+{
+    QGuiApplication::clipboard()->setText(text);
+    QTest::keyClick(&field, Qt::Key_V, Qt::ControlModifier);
+}
+
+void TicketTest::submitNeedsSubjectAndDetails()
+{
+    auto* dialog = show<IServiceDeskTicketDialog>();
+    auto& submit = child<QPushButton>(dialog, "bnSubmit");
+    bool valid = true;
+    const auto isValid = [&] {
+        return QMetaObject::invokeMethod(&window(dialog), "validate", Q_RETURN_ARG(bool, valid)) && valid;
+    };
+    QVERIFY(!submit.isEnabled());
+    QTest::keyClicks(&child(dialog, "edSubject"), QStringLiteral(" "));
+    QVERIFY(!submit.isEnabled() && !isValid());
+    QTest::keyClicks(&child(dialog, "txIssueDetails"), QStringLiteral("d"));
+    QVERIFY(submit.isEnabled() && isValid());
+    QTest::keyClick(&child(dialog, "edSubject"), Qt::Key_Backspace);
+    QVERIFY(!submit.isEnabled() && !isValid());
+    QTest::keyClicks(&child(dialog, "edSubject"), QStringLiteral("s"));
+    click(dialog, "bnSubmit");
+    QCOMPARE(takeEvents(), QStringList{submitted});
+    QVERIFY(window(dialog).isVisible());
+    QCOMPARE(dialog->getSubject() + dialog->getIssueDetails(), QStringLiteral("sd"));
+}
+
+void TicketTest::submitKeys_data()
+{
+    QTest::addColumn<QByteArray>("field");
+    QTest::addColumn<QString>("details");
+    QTest::addColumn<bool>("accepted");
+    QTest::newRow("complete, from the subject") << QByteArray("edSubject") << QStringLiteral("details") << true;
+    QTest::newRow("complete, from a list") << QByteArray("cbDepartment") << QStringLiteral("details") << true;
+    QTest::newRow("complete, from the check box") << QByteArray("ckIncludeDeviceData") << QStringLiteral("d") << true;
+    QTest::newRow("incomplete") << QByteArray("edSubject") << QString() << false;
+    QTest::newRow("a new line in the details") << QByteArray("txIssueDetails") << QStringLiteral("details") << false;
+}
+
+void TicketTest::submitKeys()
+{
+    QFETCH(QByteArray, field);
+    QFETCH(QString, details);
+    QFETCH(bool, accepted);
+    auto* dialog = show<IServiceDeskTicketDialog>();
+    dialog->setSubject(QStringLiteral("subject"));
+    dialog->setIssueDetails(details);
+    child(dialog, field.constData()).setFocus();
+    press(dialog, Qt::Key_Return);
+    QCOMPARE(takeEvents(), accepted ? QStringList{submitted} : QStringList());
+    QCOMPARE(window(dialog).isVisible(), !accepted);
+    // A submission that fails later finds everything where it was.
+    dialog->show();
+    QCOMPARE(dialog->getSubject(), QStringLiteral("subject"));
+    QVERIFY(dialog->getIssueDetails().trimmed() == details);
+}
+
+void TicketTest::hostMayAnswerByAccepting()
+{
+    auto* dialog = show<IServiceDeskTicketDialog>();
+    dialog->done(1);
+    QVERIFY(window(dialog).isVisible());
+    dialog->setSubject(QStringLiteral("subject"));
+    dialog->setIssueDetails(QStringLiteral("details"));
+    QTimer::singleShot(0, &window(dialog), [dialog] { click(dialog, "bnSubmit"); });
+    const auto connection =
+        connect(&window(dialog), SIGNAL(dialogEvent(IServiceDeskTicketDialog*, IServiceDeskTicketDialog::TEvent)),
+                &window(dialog), SLOT(accept()));
+    QVERIFY(connection);
+    QCOMPARE(dialog->exec(), 1);
+    QCOMPARE(takeEvents(), QStringList{submitted});
+}
+
+void TicketTest::untouchedFormCloses_data()
+{
+    QTest::addColumn<std::function<void(IBaseDialog*)>>("close");
+    using Close = std::function<void(IBaseDialog*)>;
+    QTest::newRow("cancel") << Close([](IBaseDialog* dialog) { click(dialog, "bnCancel"); });
+    QTest::newRow("close button") << Close([](IBaseDialog* dialog) { click(dialog, "btnClose"); });
+    QTest::newRow("escape") << Close([](IBaseDialog* dialog) { press(dialog, Qt::Key_Escape); });
+    QTest::newRow("system") << Close([](IBaseDialog* dialog) { QVERIFY(!window(dialog).close()); });
+}
+
+void TicketTest::untouchedFormCloses()
+{
+    using Close = std::function<void(IBaseDialog*)>;
+    QFETCH(Close, close);
+    auto* dialog = show<IServiceDeskTicketDialog>();
+    close(dialog);
+    QCOMPARE(takeEvents(), QStringList{cancelled});
+    QVERIFY(window(dialog).isVisible());
+
+    QTest::keyClicks(&child(dialog, "edSubject"), QStringLiteral("typed"));
+    answerNext(QMessageBox::Cancel);
+    close(dialog);
+    QVERIFY(takeEvents().isEmpty());
+    QCOMPARE(dialog->getSubject(), QStringLiteral("typed"));
+}
+
+void TicketTest::editsAreNotLostUnasked_data()
+{
+    QTest::addColumn<QByteArray>("field");
+    QTest::addColumn<int>("key");
+    QTest::newRow("subject") << QByteArray("edSubject") << int(Qt::Key_A);
+    QTest::newRow("department") << QByteArray("cbDepartment") << int(Qt::Key_Down);
+    QTest::newRow("priority") << QByteArray("cbPriorityLevel") << int(Qt::Key_Down);
+    QTest::newRow("details") << QByteArray("txIssueDetails") << int(Qt::Key_A);
+    QTest::newRow("device data") << QByteArray("ckIncludeDeviceData") << int(Qt::Key_Space);
+}
+
+void TicketTest::editsAreNotLostUnasked()
+{
+    QFETCH(QByteArray, field);
+    QFETCH(int, key);
+    auto* dialog = get<IServiceDeskTicketDialog>();
+    dialog->setDepartments({QStringLiteral("IT"), QStringLiteral("HR")});
+    dialog->setPriorities({QStringLiteral("Low"), QStringLiteral("High")});
+    showActive(dialog);
+    child(dialog, field.constData()).setFocus();
+    press(dialog, static_cast<Qt::Key>(key));
+
+    answerNext(QMessageBox::Cancel);
+    press(dialog, Qt::Key_Escape);
+    QVERIFY(takeEvents().isEmpty());
+    answerNext(QMessageBox::Discard);
+    press(dialog, Qt::Key_Escape);
+    QCOMPARE(takeEvents(), QStringList{cancelled});
+    // Discarded is discarded: nothing is left to ask about.
+    press(dialog, Qt::Key_Escape);
+    QCOMPARE(takeEvents(), QStringList{cancelled});
+}
+
+void TicketTest::discardQuestion()
+{
+    auto* dialog = show<IServiceDeskTicketDialog>();
+    QTest::keyClicks(&child(dialog, "edSubject"), QStringLiteral("typed"));
+    QTimer::singleShot(0, this, [] {
+        QMessageBox* box = question();
+        QVERIFY(box && box->isModal());
+        QVERIFY(box->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+        QCOMPARE(box->windowTitle(), QStringLiteral("Ostrel Client"));
+        QCOMPARE(box->textFormat(), Qt::RichText);
+        QCOMPARE(box->text(), QStringLiteral("<font face='Arial'><strong>Ticket not submitted</strong></font>"));
+        QCOMPARE(box->informativeText(),
+                 QStringLiteral("<font face='Arial'>Do&nbsp;you&nbsp;want&nbsp;to&nbsp;discard&nbsp;all&nbsp;changes?"
+                                "</font><br/>"));
+        QCOMPARE(box->standardButtons(), QMessageBox::Discard | QMessageBox::Cancel);
+        QCOMPARE(box->button(QMessageBox::Discard)->text(), QStringLiteral("Ok"));
+        QCOMPARE(box->button(QMessageBox::Cancel)->text(), QStringLiteral("Cancel"));
+        QCOMPARE(box->defaultButton(), box->button(QMessageBox::Discard));
+        QTest::keyClick(box, Qt::Key_Escape);
+    });
+    press(dialog, Qt::Key_Escape);
+    QVERIFY(takeEvents().isEmpty());
+    QVERIFY(!question());
+}
+
+void TicketTest::dialogDeletedDuringQuestion()
+{
+    auto* dialog = show<IServiceDeskTicketDialog>();
+    const QPointer<QWidget> guard(&window(dialog));
+    QTest::keyClicks(&child(dialog, "edSubject"), QStringLiteral("typed"));
+    QTimer::singleShot(0, this, [] {
+        QVERIFY(question());
+        QVERIFY(gui().deleteServiceDeskTicketDialogInstance());
+    });
+    QVERIFY(QMetaObject::invokeMethod(guard, "slClose"));
+    QVERIFY(!guard);
+    QVERIFY(takeEvents().isEmpty());
+}
+
+void TicketTest::hostValuesAreNoEdits()
+{
+    auto* dialog = show<IServiceDeskTicketDialog>();
+    dialog->setDepartments({QStringLiteral("IT"), QStringLiteral("HR")});
+    dialog->setDepartment(QStringLiteral("HR"));
+    dialog->setPriorities({QStringLiteral("Low"), QStringLiteral("High")});
+    dialog->setPriority(QStringLiteral("High"));
+    dialog->setSubject(QStringLiteral("subject"));
+    dialog->setIssueDetails(QStringLiteral("details"));
+    dialog->setIncludeDeviceData(true);
+    dialog->setSubjectMaxLength(3);
+    dialog->setIssueDetailsMaxLength(100);
+    QVERIFY(child<QPushButton>(dialog, "bnSubmit").isEnabled());
+    press(dialog, Qt::Key_Escape);
+    QCOMPARE(takeEvents(), QStringList{cancelled});
+
+    // What the person edited before stays an edit.
+    QTest::keyClick(&child(dialog, "ckIncludeDeviceData"), Qt::Key_Space);
+    dialog->setSubject(QStringLiteral("other"));
+    answerNext(QMessageBox::Discard);
+    press(dialog, Qt::Key_Escape);
+    QCOMPARE(takeEvents(), QStringList{cancelled});
+}
+
+void TicketTest::choices()
+{
+    auto* dialog = get<IServiceDeskTicketDialog>();
+    QCOMPARE(dialog->getDepartmentIndex(), -1);
+    QCOMPARE(dialog->getPriorityIndex(), -1);
+    QVERIFY(dialog->getDepartment().isEmpty() && dialog->getPriority().isEmpty());
+
+    QStringList many;
+    for (int i = 0; i < 20000; ++i)
+        many << QStringLiteral("Department & %1 <b>").arg(i);
+    dialog->setDepartments(many);
+    QCOMPARE(dialog->getDepartment(), many.first());
+    dialog->setDepartment(many.last());
+    dialog->setDepartment(QStringLiteral("no such department"));
+    QCOMPARE(dialog->getDepartmentIndex(), many.size() - 1);
+    QCOMPARE(dialog->getDepartment(), many.last());
+    dialog->setDepartments({});
+    QCOMPARE(dialog->getDepartmentIndex(), -1);
+
+    dialog->setPriorities({QStringLiteral("Low"), QString(), QStringLiteral("High")});
+    dialog->setPriority(QStringLiteral("High"));
+    QCOMPARE(dialog->getPriorityIndex(), 2);
+    dialog->setPriority(QStringLiteral("high"));
+    QCOMPARE(dialog->getPriority(), QStringLiteral("High"));
+
+    QVERIFY(!dialog->isIncludeDeviceData());
+    showActive(dialog);
+    click(dialog, "lbIncludeDeviceDataText");
+    QVERIFY(dialog->isIncludeDeviceData());
+    child<QCheckBox>(dialog, "ckIncludeDeviceData").setCheckState(Qt::PartiallyChecked);
+    QVERIFY(!dialog->isIncludeDeviceData());
+}
+
+void TicketTest::limitValues_data()
+{
+    QTest::addColumn<int>("limit");
+    QTest::addColumn<int>("subjectLimit");
+    QTest::addColumn<QString>("placeholder");
+    QTest::newRow("some") << 120 << 120 << QStringLiteral("Required (max. 120 chars)");
+    QTest::newRow("one") << 1 << 1 << QStringLiteral("Required (max. 1 chars)");
+    QTest::newRow("none") << 0 << 32767 << QStringLiteral("Required");
+    QTest::newRow("negative") << -5 << 32767 << QStringLiteral("Required");
+    QTest::newRow("smallest") << std::numeric_limits<int>::min() << 32767 << QStringLiteral("Required");
+}
+
+void TicketTest::limitValues()
+{
+    QFETCH(int, limit);
+    auto* dialog = get<IServiceDeskTicketDialog>();
+    QCOMPARE(dialog->getSubjectMaxLength(), 32767);
+    QCOMPARE(dialog->getIssueDetailsMaxLength(), 0);
+    const auto& subject = child<QLineEdit>(dialog, "edSubject");
+    const auto& details = child<QTextEdit>(dialog, "txIssueDetails");
+    QCOMPARE(subject.placeholderText() + details.placeholderText(), QStringLiteral("RequiredRequired"));
+
+    dialog->setSubjectMaxLength(limit);
+    dialog->setIssueDetailsMaxLength(limit);
+    QTEST(dialog->getSubjectMaxLength(), "subjectLimit");
+    QCOMPARE(dialog->getIssueDetailsMaxLength(), limit);
+    QTEST(subject.placeholderText(), "placeholder");
+    QTEST(details.placeholderText(), "placeholder");
+}
+
+void TicketTest::detailsLimit_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("kept");
+    const QString four = QStringLiteral("abcd");
+    QTest::newRow("shorter") << four << four;
+    QTest::newRow("exact") << QStringLiteral("abcde") << QStringLiteral("abcde");
+    QTest::newRow("longer") << QStringLiteral("abcdefgh") << QStringLiteral("abcde");
+    QTest::newRow("lines") << QStringLiteral("a\nb\n\nc\nd") << QStringLiteral("a\nb\n\n");
+    QTest::newRow("pair fits") << QStringLiteral("abc") + smiley + four << QStringLiteral("abc") + smiley;
+    QTest::newRow("pair at the limit") << four + smiley << four;
+    QTest::newRow("mark fits") << QStringLiteral("abc") + accentedE + four << QStringLiteral("abc") + accentedE;
+    QTest::newRow("mark at the limit") << four + accentedE << four;
+    QTest::newRow("megabyte") << four + QString(1 << 20, QLatin1Char('x')) << QStringLiteral("abcdx");
+}
+
+void TicketTest::detailsLimit()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, kept);
+    auto* dialog = show<IServiceDeskTicketDialog>();
+    dialog->setIssueDetailsMaxLength(5);
+    auto& details = child<QTextEdit>(dialog, "txIssueDetails");
+    paste(details, text);
+    QCOMPARE(dialog->getIssueDetails(), kept);
+    QVERIFY(details.textCursor().atEnd() && !details.textCursor().hasSelection());
+
+    dialog->setIssueDetails(QString());
+    dialog->setIssueDetails(text);
+    QCOMPARE(dialog->getIssueDetails(), kept);
+}
+
+void TicketTest::typingAtTheLimit_data()
+{
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("typed");
+    QTest::newRow("letter") << QStringLiteral("abc") << QStringLiteral("d");
+    QTest::newRow("combining mark") << QStringLiteral("abe") << QStringLiteral("\u0301");
+    QTest::newRow("joined to a smiley") << QStringLiteral("a") + smiley << QStringLiteral("\u200d");
+}
+
+void TicketTest::typingAtTheLimit()
+{
+    QFETCH(QString, before);
+    QFETCH(QString, typed);
+    auto* dialog = show<IServiceDeskTicketDialog>();
+    dialog->setIssueDetailsMaxLength(3);
+    auto& details = child<QTextEdit>(dialog, "txIssueDetails");
+    paste(details, before);
+    for (int i = 0; i < 3; ++i) {
+        QTest::sendKeyEvent(QTest::Click, &details, Qt::Key_unknown, typed, Qt::NoModifier);
+        QCOMPARE(dialog->getIssueDetails(), before);
+        QVERIFY(details.textCursor().atEnd());
+    }
+}
+
+void TicketTest::undoAfterCut()
+{
+    auto* dialog = show<IServiceDeskTicketDialog>();
+    dialog->setIssueDetailsMaxLength(8);
+    auto& details = child<QTextEdit>(dialog, "txIssueDetails");
+    paste(details, QStringLiteral("12345"));
+    details.moveCursor(QTextCursor::Start);
+    paste(details, QStringLiteral("abcdef"));
+    QCOMPARE(dialog->getIssueDetails(), QStringLiteral("abcdef12"));
+    QTest::keyClick(&details, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(dialog->getIssueDetails(), QStringLiteral("12345"));
+    QTest::keyClick(&details, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(dialog->getIssueDetails(), QStringLiteral("abcdef12"));
+}
+
+void TicketTest::subjectLimit_data()
+{
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<int>("cursor");
+    QTest::addColumn<QString>("pasted");
+    QTest::addColumn<QString>("after");
+    const QString abc = QStringLiteral("abc");
+    QTest::newRow("longer") << QString() << 0 << QStringLiteral("abcdef") << QStringLiteral("abcd");
+    QTest::newRow("pair at the limit") << QString() << 0 << abc + smiley << abc;
+    QTest::newRow("pair into the middle") << abc << 1 << smiley << abc;
+    QTest::newRow("pair fits") << QString() << 0 << QStringLiteral("ab") + smiley + abc
+                               << QStringLiteral("ab") + smiley;
+}
+
+void TicketTest::subjectLimit()
+{
+    QFETCH(QString, before);
+    QFETCH(int, cursor);
+    QFETCH(QString, pasted);
+    QFETCH(QString, after);
+    auto* dialog = show<IServiceDeskTicketDialog>();
+    dialog->setSubjectMaxLength(4);
+    dialog->setSubject(before);
+    auto& subject = child<QLineEdit>(dialog, "edSubject");
+    subject.setCursorPosition(cursor);
+    paste(subject, pasted);
+    QCOMPARE(dialog->getSubject(), after);
+
+    // The same text, there before its limit.
+    dialog->setSubjectMaxLength(0);
+    dialog->setSubject(QStringLiteral("abc") + smiley);
+    dialog->setSubjectMaxLength(4);
+    QCOMPARE(dialog->getSubject(), QStringLiteral("abc"));
+}
+
+void TicketTest::lateLimitKeepsDetails()
+{
+    auto* dialog = show<IServiceDeskTicketDialog>();
+    dialog->setSubject(QStringLiteral("subject"));
+    auto& details = child<QTextEdit>(dialog, "txIssueDetails");
+    paste(details, QStringLiteral("abcdef"));
+    QVERIFY(child<QPushButton>(dialog, "bnSubmit").isEnabled());
+    dialog->setIssueDetailsMaxLength(3);
+    QCOMPARE(dialog->getIssueDetails(), QStringLiteral("abcdef"));
+    QVERIFY(!child<QPushButton>(dialog, "bnSubmit").isEnabled());
+    dialog->done(1);
+    QVERIFY(takeEvents().isEmpty());
+    QTest::keyClick(&details, Qt::Key_Backspace);
+    QCOMPARE(dialog->getIssueDetails(), QStringLiteral("abc"));
+    QVERIFY(child<QPushButton>(dialog, "bnSubmit").isEnabled());
+}
+
+void TicketTest::detailsAreNeverMarkup()
+{
+    auto* dialog = show<IServiceDeskTicketDialog>();
+    const QString markup = QStringLiteral("<b>bold</b> &lt; <img src=\"file:///etc/hostname\">");
+    dialog->setIssueDetails(markup);
+    QCOMPARE(dialog->getIssueDetails(), markup);
+    auto* html = new QMimeData;
+    html->setHtml(QStringLiteral("<h1>heading</h1>"));
+    html->setText(QStringLiteral("heading"));
+    QGuiApplication::clipboard()->setMimeData(html);
+    auto& details = child<QTextEdit>(dialog, "txIssueDetails");
+    details.selectAll();
+    QTest::keyClick(&details, Qt::Key_V, Qt::ControlModifier);
+    QCOMPARE(dialog->getIssueDetails(), QStringLiteral("heading"));
+    QCOMPARE(details.textCursor().blockFormat().headingLevel(), 0);
+}
+
+void TicketTest::keyboardReachesEverything()
+{
+    auto* dialog = get<IServiceDeskTicketDialog>();
+    dialog->setSubject(QStringLiteral("subject"));
+    dialog->setIssueDetails(QStringLiteral("details"));
+    showActive(dialog);
+    for (const char* name : {"edSubject", "cbDepartment", "cbPriorityLevel", "txIssueDetails", "ckIncludeDeviceData",
+                             "bnSubmit", "bnCancel", "edSubject"}) {
+        QCOMPARE(window(dialog).focusWidget()->objectName(), QLatin1String(name));
+        press(dialog, Qt::Key_Tab);
+    }
+    QCOMPARE(window(dialog).windowTitle(), QStringLiteral(" Tavik Submit ticket"));
+    QVERIFY(window(dialog).windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+}
+
+Q_DECLARE_METATYPE(std::function<void(IBaseDialog*)>)
+GUI_TEST_MAIN(TicketTest)
+#include "tst_ticket.moc"
