@@ -158,7 +158,7 @@ QString ServiceDeskTicketDialog::getIssueDetails() const
 void ServiceDeskTicketDialog::setIssueDetails(const QString& details)
 {
     const QScopedValueRollback<bool> notAnEdit(changed);
-    ui->txIssueDetails->setPlainText(details);
+    showPlainText(ui->txIssueDetails, details);
 }
 
 bool ServiceDeskTicketDialog::isIncludeDeviceData() const

@@ -9,10 +9,11 @@ QStringList warnings;
 
 void recordMessage(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
-    allMessages << message;
     // The offscreen platform says so when a window is raised or a message box is shown.
-    const bool fromPlatform = message.startsWith(QLatin1String("This plugin does not support "));
-    if ((type == QtWarningMsg || type == QtCriticalMsg) && !fromPlatform)
+    if (message.startsWith(QLatin1String("This plugin does not support ")))
+        return;
+    allMessages << message;
+    if (type == QtWarningMsg || type == QtCriticalMsg)
         warnings << message;
     else
         previousHandler(type, context, message);
