@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QLoggingCategory>
+#include <QPixmapCache>
 #include <QPluginLoader>
 
 #if defined(__GLIBC__) && __GLIBC_PREREQ(2, 33)
@@ -50,6 +51,8 @@ void useDialogs(GuiInterface& gui, int round)
 /// What the process holds, 0 where nobody knows.
 size_t memoryInUse()
 {
+    // What Qt keeps of pictures for a while, in case they are shown again.
+    QPixmapCache::clear();
 #if defined(__GLIBC__) && __GLIBC_PREREQ(2, 33)
     return mallinfo2().uordblks;
 #else
@@ -87,6 +90,7 @@ void ReloadTest::loadsAndUnloads()
         // The application goes on living: with new events, new widgets and new styles.
         QWidget().grab();
         QCoreApplication::processEvents();
+        if (round % 100 == 99) qInfo("%d %zu", round, memoryInUse());
         if (round == rounds / 10)
             early = memoryInUse();
     }
