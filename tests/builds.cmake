@@ -18,7 +18,7 @@ if(MINGW_COMPILER AND NOT GUI_SANITIZE)
         -D GENERATOR=${CMAKE_GENERATOR}
         -D VERSION_RESOURCE=${PROJECT_BINARY_DIR}/plugin/Gui.rc
         -D QT_HEADERS=${qt_headers}
-        -D FORM_HEADERS=${PROJECT_BINARY_DIR}/dialogs/dialogs_autogen/include
+        -D FORM_HEADERS=${PROJECT_BINARY_DIR}/dialogs
         "-DPRODUCT=${GUI_PRODUCT} ${PROJECT_VERSION}"
         -P ${CMAKE_CURRENT_SOURCE_DIR}/windows/test.cmake)
 endif()

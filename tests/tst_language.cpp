@@ -99,9 +99,12 @@ Text labelText(QLabel* label)
 {
     const int margin = label->margin();
     const QRect room = label->contentsRect().adjusted(margin, margin, -margin, -margin);
-    if (label->textFormat() != Qt::RichText)
-        return {label, label->text(),
-                inkRect(label->text(), label->font(), label->alignment(), room, label->wordWrap()), label->rect()};
+    if (label->textFormat() != Qt::RichText) {
+        QRect ink = inkRect(label->text(), label->font(), label->alignment(), room, label->wordWrap());
+        if (label->inherits("LowHeading"))
+            ink.moveTop((label->height() - ink.height()) / 2);
+        return {label, label->text(), ink, room & label->rect()};
+    }
     QTextDocument document;
     document.setDefaultFont(label->font());
     document.setDocumentMargin(0);
@@ -115,9 +118,10 @@ Text buttonText(QAbstractButton* button, QStyle::SubElement contents, Qt::Alignm
     QStyleOptionButton option;
     option.initFrom(button);
     option.text = button->text();
+    // The frame that shows the focus stands within the button.
+    option.state.setFlag(QStyle::State_HasFocus, false);
     const QRect room = button->style()->subElementRect(contents, &option, button);
-    const QRect ink = inkRect(button->text(), button->font(), alignment, room);
-    return {button, button->text(), ink, QRect(room.left(), 0, room.width(), button->height())};
+    return {button, button->text(), inkRect(button->text(), button->font(), alignment, room), room};
 }
 
 Text titleText(QGroupBox* box)
@@ -201,13 +205,13 @@ bool areRelated(const QWidget* first, const QWidget* second)
     return first == second || first->isAncestorOf(second) || second->isAncestorOf(first);
 }
 
-/// The heading of the login is 16 pixels high whatever its font; higher letters lose up to two.
-bool isKnownToBeHigher(const Text& text, float ratio)
+/// The heading of the login is 16 pixels high whatever its font; East Asian letters and an accent lose up to one pixel
+/// above and below.
+bool isKnownToBeHigher(const Text& text)
 {
-    const int loss = qRound(2 * ratio);
     return text.widget->objectName() == QLatin1String("label_2")
         && text.widget->window()->objectName() == QLatin1String("AuthorizationDialog")
-        && text.room.adjusted(0, -loss, 0, loss).contains(text.drawn);
+        && text.room.adjusted(0, -1, 0, 1).contains(text.drawn);
 }
 } // namespace
 
@@ -279,7 +283,7 @@ void LanguageTest::textsFit()
             continue;
         const QVector<Text> texts = textsOf(widget);
         for (const Text& text : texts) {
-            if (!text.fits() && !isKnownToBeHigher(text, ratio))
+            if (!text.fits() && !isKnownToBeHigher(text))
                 failures << text.description();
             if (widget->isVisible())
                 visibleTexts.append(text);

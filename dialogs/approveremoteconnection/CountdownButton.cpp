@@ -70,3 +70,9 @@ void CountdownButton::setSecondsLeft(qint64 seconds)
 {
     setText(label() + QLatin1Char('(') + QString::number(seconds) + QLatin1Char(')'));
 }
+
+QSize CountdownButton::sizeHint() const
+{
+    // The style sheet lets a focused button ask for less room, which its text then lacks.
+    return QPushButton::sizeHint().expandedTo({fontMetrics().horizontalAdvance(text()) + 28, 0});
+}

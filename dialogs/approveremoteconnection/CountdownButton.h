@@ -15,4 +15,6 @@ public:
     /// The seconds in the text, 0 when there are none.
     qint64 secondsLeft() const;
     void setSecondsLeft(qint64 seconds);
+
+    QSize sizeHint() const override;
 };

@@ -24,8 +24,6 @@ AuthorizationDialog::AuthorizationDialog(QWidget* parent) : BaseDialog(parent), 
 {
     ui->setupUi(this);
     setupWindow();
-    giveDescendersRoom(ui->label_2);
-    giveDescendersRoom(ui->label1);
     setCaption(ui->lblAppName, ui->lblType, tr("Login"));
     // Translators get the words alone.
     ui->lblWebLink->setText(reminderLink(ui->lblWebLink->text()));

@@ -6,6 +6,10 @@ OptionDialog::OptionDialog(QWidget* parent) : BaseDialog(parent), ui(new Ui::Opt
 {
     ui->setupUi(this);
     setupWindow();
+    // Not in the form: fields created within an unchecked group are disabled while they are still under construction,
+    // and a screen reader that hears of it then takes them for plain widgets ever after.
+    ui->proxyAuthGroupBox->setChecked(false);
+    ui->proxyGroupBox->setChecked(false);
     ui->btnDeactivateAntiTheft->hide();
     setCaption(ui->lblAppName, ui->lblType, tr("Options"));
 

@@ -8,8 +8,6 @@ ZentPasswordDialog::ZentPasswordDialog(QWidget* parent) : BaseDialog(parent), ui
 {
     ui->setupUi(this);
     setupWindow();
-    giveDescendersRoom(ui->label_2);
-    giveDescendersRoom(ui->label1);
     setCaption(ui->lblAppName, ui->lblType, tr("Enter password"));
     ui->btnContinue->setEnabled(false);
 

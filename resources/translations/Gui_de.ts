@@ -628,7 +628,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Show or hide the activity log</source>
-        <extracomment>Tool tip of an arrow</extracomment>
+        <extracomment>Of an arrow, for screen readers</extracomment>
         <translation>Aktivitätsprotokoll ein- oder ausblenden</translation>
     </message>
     <message>

@@ -218,7 +218,8 @@ Tavik の登録が必要です</translation>
     </message>
     <message>
         <source>You need to login with your Brisel Tavik online account in order to continue</source>
-        <translation>続行するには、Brisel Tavik オンライン アカウントでログインする必要があります</translation>
+        <translation>続行するには、Brisel Tavik オンライン アカウントで
+ログインする必要があります</translation>
     </message>
     <message>
         <source>Please login with your Brisel Tavik</source>
@@ -627,7 +628,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Show or hide the activity log</source>
-        <extracomment>Tool tip of an arrow</extracomment>
+        <extracomment>Of an arrow, for screen readers</extracomment>
         <translation>操作ログの表示と非表示を切り替える</translation>
     </message>
     <message>
@@ -669,7 +670,8 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Include device data (brand, model, serial number, logged on user, domain/workgroup)</source>
-        <translation>デバイス情報を含める (メーカー、モデル、シリアル番号、ログイン中のユーザー、ドメイン/ワークグループ)</translation>
+        <translation>デバイス情報を含める (メーカー、モデル、シリアル番号、ログイン中のユーザー、
+ドメイン/ワークグループ)</translation>
     </message>
     <message>
         <source>Note: Company, Device Name and Owner are included by default.</source>

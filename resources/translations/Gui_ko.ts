@@ -627,7 +627,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Show or hide the activity log</source>
-        <extracomment>Tool tip of an arrow</extracomment>
+        <extracomment>Of an arrow, for screen readers</extracomment>
         <translation>활동 로그 표시 또는 숨기기</translation>
     </message>
     <message>

@@ -629,7 +629,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Show or hide the activity log</source>
-        <extracomment>Tool tip of an arrow</extracomment>
+        <extracomment>Of an arrow, for screen readers</extracomment>
         <translation>Activiteitenlogboek weergeven of verbergen</translation>
     </message>
     <message>
