@@ -42,3 +42,8 @@ if(GUI_SANITIZE)
     target_compile_options(compile_settings INTERFACE ${sanitizers})
     target_link_options(compile_settings INTERFACE ${sanitizers})
 endif()
+
+if(GUI_FUZZ)
+    # The fuzzer learns from the branches that its input reaches.
+    target_compile_options(compile_settings INTERFACE -fsanitize=fuzzer-no-link)
+endif()

@@ -39,8 +39,9 @@ void useDialogs(GuiInterface& gui, int round)
     for (int i = 0; i < 2; ++i) {
         const Family& family = dialogFamilies()[(2 * round + i) % dialogFamilies().size()];
         IBaseDialog* dialog = family.get(gui, QStringLiteral("id"));
-        dialog->show();
-        dynamic_cast<QWidget&>(*dialog).grab();
+        auto& window = dynamic_cast<QWidget&>(*dialog);
+        window.setVisible(true);
+        window.grab();
         QCoreApplication::processEvents();
         family.remove(gui, QStringLiteral("id"));
     }
@@ -77,9 +78,10 @@ void ReloadTest::loadsAndUnloads()
         QVERIFY(!isThere());
         QCOMPARE(translated(), QStringLiteral("About"));
 
-        QPluginLoader loader(QStringLiteral(GUI_PLUGIN));
-        // By default Qt only pretends to unload.
+        // By default Qt only pretends to unload, and a loader with a file no longer takes that back.
+        QPluginLoader loader;
         loader.setLoadHints(QLibrary::LoadHints());
+        loader.setFileName(QStringLiteral(GUI_PLUGIN));
         auto* gui = qobject_cast<GuiInterface*>(loader.instance());
         QVERIFY2(gui, qPrintable(loader.errorString()));
         QVERIFY(isThere());
@@ -95,7 +97,8 @@ void ReloadTest::loadsAndUnloads()
             early = memoryInUse();
     }
     qInfo("%zu bytes in use after %d rounds, %zu after %d", early, rounds / 10, memoryInUse(), rounds);
-    QVERIFY(memoryInUse() <= early + early / 100);
+    constexpr size_t tolerance = 64 * 1024;
+    QVERIFY(memoryInUse() <= early + tolerance);
 }
 
 int main(int argc, char** argv)
