@@ -92,7 +92,6 @@ void ReloadTest::loadsAndUnloads()
         // The application goes on living: with new events, new widgets and new styles.
         QWidget().grab();
         QCoreApplication::processEvents();
-        if (round % 100 == 99) qInfo("%d %zu", round, memoryInUse());
         if (round == rounds / 10)
             early = memoryInUse();
     }
