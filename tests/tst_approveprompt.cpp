@@ -16,17 +16,6 @@ const QString allowed(QStringLiteral("evAllow"));
 const QString refused(QStringLiteral("evCancel"));
 const QString timeout(QStringLiteral("evTimeout"));
 
-/// Deletes a prompt from inside its event handler.
-class Deleter final : public QObject {
-    Q_OBJECT
-
-public Q_SLOTS:
-    void onDialogEvent(IApproveRemoteConnectionDialog* sender, IApproveRemoteConnectionDialog::TEvent)
-    {
-        delete sender;
-    }
-};
-
 /// Knows one key of the host's messages.
 class HostTranslator final : public QTranslator {
 public:
@@ -295,12 +284,13 @@ void ApprovePromptTest::scaled()
 
 void ApprovePromptTest::deletedInItsHandler()
 {
-    const char* slot = SLOT(onDialogEvent(IApproveRemoteConnectionDialog*, IApproveRemoteConnectionDialog::TEvent));
+    const Family& family = dialogFamily(QStringLiteral("ApproveRemoteConnectionDialog"));
     for (const char* button : {"allowButton", "cancelButton", "none, the time is over"}) {
         const QString id = QLatin1String(button);
         auto* prompt = get<Prompt>(id);
-        Deleter deleter;
-        QVERIFY(gui().attachApproveRemoteConnectionDialogEventHandler(&deleter, slot, id));
+        EventReceiver handler;
+        connect(&handler, &EventReceiver::received, this, [&] { delete prompt; });
+        QVERIFY(family.attach(gui(), &handler, family.receiverSlot.constData(), id));
         const QPointer<QWidget> guard = &window(prompt);
         const bool clicks = window(prompt).findChild<QWidget*>(id);
         prompt->setCountdown(clicks ? 30 : 0);

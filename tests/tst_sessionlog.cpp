@@ -3,10 +3,8 @@
 #include <QAccessible>
 #include <QCheckBox>
 #include <QClipboard>
-#include <QDateTime>
 #include <QElapsedTimer>
 #include <QListView>
-#include <QPainter>
 #include <QScrollBar>
 #include <QTextDocumentFragment>
 #include <QToolTip>

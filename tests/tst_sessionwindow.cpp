@@ -52,25 +52,6 @@ QPoint screenCorner()
     return QGuiApplication::primaryScreen()->availableGeometry().bottomRight();
 }
 
-/// Does what a test wants inside the window's first event.
-class Handler final : public QObject {
-    Q_OBJECT
-
-public:
-    explicit Handler(Reaction whatToDo) : react(whatToDo) { }
-    int calls = 0;
-
-public Q_SLOTS:
-    void onDialogEvent(IRemoteConnectionDialog* sender, IRemoteConnectionDialog::TEvent, const QString&)
-    {
-        if (++calls == 1)
-            react(sender);
-    }
-
-private:
-    const Reaction react;
-};
-
 /// What the window should show, told in the fewest words.
 struct Model {
     struct Panel {
@@ -556,9 +537,14 @@ void SessionWindowTest::reactsFromInside()
     addControl(session, a, cause != "btnCloseRemoteControlPopup");
     startTools(session, b);
     settle();
-    Handler handler(reaction);
-    QVERIFY(gui().attachRemoteConnectionDialogEventHandler(
-        &handler, SLOT(onDialogEvent(IRemoteConnectionDialog*, IRemoteConnectionDialog::TEvent, const QString&))));
+    EventReceiver handler;
+    int calls = 0;
+    connect(&handler, &EventReceiver::received, this, [&] {
+        if (++calls == 1)
+            reaction(session);
+    });
+    const Family& family = dialogFamily(QStringLiteral("RemoteConnectionDialog"));
+    QVERIFY(family.attach(gui(), &handler, family.receiverSlot.constData(), QString()));
     if (cause == "host ends tools")
         session->endRemoteToolsSession(session->remoteToolsSessionId());
     else if (cause == "host ends control")
@@ -566,7 +552,7 @@ void SessionWindowTest::reactsFromInside()
     else
         click(session, cause.constData());
     settle();
-    QVERIFY(handler.calls > 0);
+    QVERIFY(calls > 0);
     QCOMPARE(guard && guard->isVisible(), visible);
     QCOMPARE(guard.isNull(), QByteArray(QTest::currentDataTag()).startsWith("delete"));
     events.clear();
