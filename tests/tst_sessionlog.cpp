@@ -253,8 +253,8 @@ void SessionLogTest::keys()
     QCOMPARE(rowAfter(Qt::Key_Home), 0);
     QCOMPARE(rowAfter(Qt::Key_Down, Qt::ShiftModifier), 1);
     QCOMPARE(view->selectionModel()->selectedIndexes().size(), 2);
-    // Letters search for nothing: that would render a million rows.
-    QCOMPARE(rowAfter(Qt::Key_2), 1);
+    // Typing searches for nothing, not even for what every row starts with: that would render a million rows.
+    QCOMPARE(rowAfter(Qt::Key_Less), 1);
     QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, rowRect(3).center());
     QCOMPARE(view->currentIndex().row(), 3);
     QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::ShiftModifier, rowRect(5).center());
