@@ -446,7 +446,6 @@ void SessionLogTest::toolTipsAreLiteral()
     QListView& view = list(session);
     const QPoint middle = view.visualRect(view.model()->index(0, 0)).center();
     QHelpEvent help(QEvent::ToolTip, middle, view.viewport()->mapToGlobal(middle));
-    expectWarning(QStringLiteral("does not support raise"));
     QCoreApplication::sendEvent(view.viewport(), &help);
     QVERIFY(QToolTip::text().contains(QLatin1String("&lt;b&gt;bold")));
     QToolTip::hideText();

@@ -41,7 +41,8 @@ QSize scaled(const QSize& size, float ratio)
 BaseDialog::BaseDialog(QWidget* parent) : QDialog(parent)
 {
     // One type face and size wherever a form does not name its own, whatever the desktop's settings.
-    setFont(QFont(QStringLiteral("Arial"), 9));
+    // No string literal: the font cache keeps the name even after the library, and its literals, were unloaded.
+    setFont(QFont(QLatin1String("Arial"), 9));
     BaseDialog::setupWindow();
 }
 
