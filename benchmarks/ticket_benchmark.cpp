@@ -66,6 +66,8 @@ int main(int argc, char** argv)
         measure(*gui, out, QStringLiteral("lines"), line.repeated(megabyte / line.size()), limit);
         measure(*gui, out, QStringLiteral("one paragraph"), words.repeated(megabyte / words.size()), limit);
         measure(*gui, out, QStringLiteral("one word"), QString(megabyte, QLatin1Char('x')), limit);
+        if (limit > 0)
+            measure(*gui, out, QStringLiteral("nothing but line breaks"), QString(megabyte, QLatin1Char(10)), limit);
         measure(*gui, out, QStringLiteral("short lines"),
                 QStringLiteral("twenty characters..\n").repeated(megabyte / 20), limit);
     }

@@ -98,12 +98,25 @@ std::tuple<std::decay_t<Arguments>...> argumentsFromJson(const QJsonArray& value
     return {fromJson<std::decay_t<Arguments>>(values.at(Positions))...};
 }
 
+template <class T>
+constexpr QJsonValue::Type jsonType()
+{
+    if constexpr (std::is_same_v<T, QString>)
+        return QJsonValue::String;
+    else if constexpr (std::is_same_v<T, QStringList>)
+        return QJsonValue::Array;
+    else if constexpr (std::is_same_v<T, bool>)
+        return QJsonValue::Bool;
+    else
+        return QJsonValue::Double;
+}
+
 template <class Interface, class Function, class Result, class... Arguments>
 Operation makeOperation(const char* name, Function function)
 {
     Operation operation;
     operation.name = QLatin1String(name);
-    operation.argumentCount = sizeof...(Arguments);
+    operation.argumentTypes = {jsonType<std::decay_t<Arguments>>()...};
     operation.isGetter = !std::is_void_v<Result> && sizeof...(Arguments) == 0;
     operation.call = [function, name = operation.name](IBaseDialog& dialog, const QJsonArray& values) -> QJsonValue {
         if (values.size() != static_cast<int>(sizeof...(Arguments)))
@@ -377,7 +390,7 @@ QJsonObject Family::values(IBaseDialog& dialog) const
 void Family::set(IBaseDialog& dialog, const QString& property, const QJsonValue& value) const
 {
     const Operation& operation = setter(property);
-    const bool takesSeveral = operation.argumentCount != 1 && value.isArray();
+    const bool takesSeveral = operation.argumentTypes.size() != 1 && value.isArray();
     try {
         operation.call(dialog, takesSeveral ? value.toArray() : QJsonArray{value});
     } catch (const ScriptError& error) {

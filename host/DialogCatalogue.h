@@ -23,7 +23,7 @@ public:
 /// One operation of a dialog interface, callable with JSON values.
 struct Operation {
     QString name;
-    int argumentCount = 0;
+    QVector<QJsonValue::Type> argumentTypes;
     bool isGetter = false;
     /// Throws ScriptError when the arguments do not fit.
     std::function<QJsonValue(IBaseDialog&, const QJsonArray&)> call;

@@ -114,7 +114,7 @@ int ApproveRemoteConnectionDialog::getSessionType() const
 void ApproveRemoteConnectionDialog::setMessage(const QString& text, bool translate)
 {
     message = translate ? QCoreApplication::translate("ControllerConsts", text.toLocal8Bit().constData()) : text;
-    ui->messageTextEdit->setPlainText(linesWithVisibleControls(message));
+    showPlainText(ui->messageTextEdit, linesWithVisibleControls(message));
 }
 
 const QString& ApproveRemoteConnectionDialog::getMessage() const

@@ -41,7 +41,7 @@ QSize scaled(const QSize& size, float ratio)
 BaseDialog::BaseDialog(QWidget* parent) : QDialog(parent)
 {
     // One type face and size wherever a form does not name its own, whatever the desktop's settings.
-    // No string literal: the font cache keeps the name even after the library, and its literals, were unloaded.
+    // No QStringLiteral: Qt's font cache keeps the name, which must not lie in a library that a host may unload.
     setFont(QFont(QLatin1String("Arial"), 9));
     BaseDialog::setupWindow();
 }

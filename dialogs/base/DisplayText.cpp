@@ -2,7 +2,9 @@
 
 #include <QFontMetrics>
 #include <QLabel>
+#include <QPlainTextEdit>
 #include <QTextDocument>
+#include <QTextEdit>
 
 #include <algorithm>
 
@@ -26,6 +28,29 @@ QString cutForLine(const QString& text, Qt::TextElideMode mode)
     if (text.size() <= longestLine)
         return text;
     return mode == Qt::ElideLeft ? ellipsis + text.right(longestLine) : text.left(longestLine) + ellipsis;
+}
+bool hasEndlessWord(const QString& text)
+{
+    const auto isBlank = [](QChar character) { return character.isSpace(); };
+    for (auto start = text.cbegin(); text.cend() - start > longestLine;) {
+        const auto end = std::find_if(start, text.cend(), isBlank);
+        if (end - start > longestLine)
+            return true;
+        start = end + 1;
+    }
+    return false;
+}
+
+template <class Edit>
+void showWrapped(Edit* edit, const QString& text)
+{
+    // To wrap at words where possible and anywhere else takes Qt quadratic time for a long word.
+    const bool anywhere = hasEndlessWord(text);
+    if (anywhere)
+        edit->setWordWrapMode(QTextOption::WrapAnywhere);
+    edit->setPlainText(text);
+    if (!anywhere)
+        edit->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
 }
 } // namespace
 
@@ -63,6 +88,16 @@ QString literalWindowTitle(const QString& text)
 {
     QString title = text;
     return title.replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+}
+
+void showPlainText(QTextEdit* edit, const QString& text)
+{
+    showWrapped(edit, text);
+}
+
+void showPlainText(QPlainTextEdit* edit, const QString& text)
+{
+    showWrapped(edit, text);
 }
 
 void giveDescendersRoom(QLabel* heading)

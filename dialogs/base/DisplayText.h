@@ -3,11 +3,10 @@
 #include <QString>
 
 QT_BEGIN_NAMESPACE
-class QLabel;
-QT_END_NAMESPACE
-
-QT_BEGIN_NAMESPACE
 class QFontMetrics;
+class QLabel;
+class QPlainTextEdit;
+class QTextEdit;
 QT_END_NAMESPACE
 
 // Text that comes from outside is data. These functions make it appear as what it is, on screen only: what an
@@ -28,6 +27,10 @@ QString literalToolTip(const QString& text);
 
 /// @p text as a window title that shows it literally, also when it contains Qt's mark for unsaved changes.
 QString literalWindowTitle(const QString& text);
+
+/// Shows @p text in @p edit, in a time that grows with its length even when it is one endless word.
+void showPlainText(QTextEdit* edit, const QString& text);
+void showPlainText(QPlainTextEdit* edit, const QString& text);
 
 /// Raises the text of a heading that is as low as its letters, so that those that reach below the line are not cut.
 void giveDescendersRoom(QLabel* heading);

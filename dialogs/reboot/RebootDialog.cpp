@@ -1,5 +1,6 @@
 #include "RebootDialog.h"
 
+#include "DisplayText.h"
 #include "ui_RebootDialog.h"
 
 #include <QCloseEvent>
@@ -10,6 +11,9 @@
 #include <QTextDocument>
 
 namespace {
+// Qt takes quadratic time for nested markup, and a reason that people read is far shorter than this.
+constexpr int longestRichText = 1 << 14;
+
 /// A document that refers to pictures and style sheets in vain: showing a text must not open files or network shares.
 class InertDocument final : public QTextDocument {
 public:
@@ -59,7 +63,10 @@ QString RebootDialog::getMessage() const
 
 void RebootDialog::setMessage(const QString& text)
 {
-    ui->rebootReasonLabel->setText(text);
+    const bool canBeRich = text.size() <= longestRichText;
+    showPlainText(ui->rebootReasonLabel, canBeRich ? QString() : text);
+    if (canBeRich)
+        ui->rebootReasonLabel->setText(text);
 }
 
 int RebootDialog::getPostponePeriod() const

@@ -158,7 +158,7 @@ QString ServiceDeskTicketDialog::getIssueDetails() const
 void ServiceDeskTicketDialog::setIssueDetails(const QString& details)
 {
     const QScopedValueRollback<bool> notAnEdit(changed);
-    ui->txIssueDetails->setPlainText(details);
+    showPlainText(ui->txIssueDetails, details);
 }
 
 bool ServiceDeskTicketDialog::isIncludeDeviceData() const
@@ -193,6 +193,7 @@ void ServiceDeskTicketDialog::setIssueDetailsMaxLength(int length)
 {
     // Longer text that is already there stays until the next edit, which brings it within the limit.
     issueDetailsMaxLength = length;
+    ui->txIssueDetails->setInsertionLimit(length);
     ui->txIssueDetails->setPlaceholderText(placeholder(length));
     updateSubmitButton();
 }

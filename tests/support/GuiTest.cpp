@@ -9,13 +9,11 @@ QStringList warnings;
 
 void recordMessage(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
-    // What the offscreen platform cannot do is no fault of the library.
-    if (message == QLatin1String("This plugin does not support raise()"))
+    // The offscreen platform says so when a window is raised or a message box is shown.
+    if (message.startsWith(QLatin1String("This plugin does not support ")))
         return;
     allMessages << message;
-    // The offscreen platform says so when a window is raised or a message box is shown.
-    const bool fromPlatform = message.startsWith(QLatin1String("This plugin does not support "));
-    if ((type == QtWarningMsg || type == QtCriticalMsg) && !fromPlatform)
+    if (type == QtWarningMsg || type == QtCriticalMsg)
         warnings << message;
     else
         previousHandler(type, context, message);

@@ -1,0 +1,21 @@
+#include "DetailsEdit.h"
+
+#include <QMimeData>
+
+void DetailsEdit::setInsertionLimit(int length)
+{
+    insertionLimit = length;
+}
+
+void DetailsEdit::insertFromMimeData(const QMimeData* source)
+{
+    const QString text = source->text();
+    if (insertionLimit <= 0 || text.size() <= insertionLimit) {
+        QTextEdit::insertFromMimeData(source);
+        return;
+    }
+    // One more than fits, so that the form still sees that something is to be cut, and where a character ends.
+    QMimeData beginning;
+    beginning.setText(text.left(insertionLimit + 1));
+    QTextEdit::insertFromMimeData(&beginning);
+}
