@@ -205,8 +205,7 @@ bool areRelated(const QWidget* first, const QWidget* second)
     return first == second || first->isAncestorOf(second) || second->isAncestorOf(first);
 }
 
-/// The heading of the login is 16 pixels high whatever its font; East Asian letters and an accent lose up to one pixel
-/// above and below.
+/// The heading of the login is 16 pixels high, and East Asian letters of its font lose one pixel above and below.
 bool isKnownToBeHigher(const Text& text)
 {
     return text.widget->objectName() == QLatin1String("label_2")

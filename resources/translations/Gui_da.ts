@@ -121,7 +121,7 @@ for at denne enhed kan administreres</translation>
     </message>
     <message>
         <source>Enrollment Required</source>
-        <translation>Tilmelding påkrævet</translation>
+        <translation>Tilmelding kræves</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -215,7 +215,7 @@ for at denne enhed kan administreres</translation>
     </message>
     <message>
         <source>Authorization Required</source>
-        <translation>Autorisation påkrævet</translation>
+        <translation>Autorisation kræves</translation>
     </message>
     <message>
         <source>You need to login with your Brisel Tavik online account in order to continue</source>
@@ -256,7 +256,7 @@ for at denne enhed kan administreres</translation>
     </message>
     <message>
         <source>Authorization Required</source>
-        <translation>Autorisation påkrævet</translation>
+        <translation>Autorisation kræves</translation>
     </message>
     <message>
         <source>Please enter your credentials in order to continue</source>
@@ -732,7 +732,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Authorization Required</source>
-        <translation>Autorisation påkrævet</translation>
+        <translation>Autorisation kræves</translation>
     </message>
     <message>
         <source>You need to enter Zent Custom Password
