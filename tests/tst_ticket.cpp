@@ -1,5 +1,4 @@
 #include "GuiTest.h"
-#include "IServiceDeskTicketDialog.h"
 
 #include <QCheckBox>
 #include <QClipboard>
@@ -12,7 +11,6 @@
 #include <QTextEdit>
 #include <QTimer>
 
-#include <functional>
 #include <limits>
 
 namespace {
@@ -50,12 +48,10 @@ private Q_SLOTS:
     void subjectLimit();
     void lateLimitKeepsDetails();
     void detailsAreNeverMarkup();
-    void keyboardReachesEverything();
 
 private:
     /// Answers the discard question, which must come.
     void answerNext(QMessageBox::StandardButton button);
-    static void paste(QWidget& field, const QString& text);
     static QMessageBox* question()
     {
         return qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
@@ -70,21 +66,14 @@ void TicketTest::answerNext(QMessageBox::StandardButton button)
     });
 }
 
-void TicketTest::paste(QWidget& field, const QString& text)
-{
-    QGuiApplication::clipboard()->setText(text);
-    QTest::keyClick(&field, Qt::Key_V, Qt::ControlModifier);
-}
-
 void TicketTest::submitNeedsSubjectAndDetails()
 {
     auto* dialog = show<IServiceDeskTicketDialog>();
-    auto& submit = child<QPushButton>(dialog, "bnSubmit");
+    const QWidget& submit = child(dialog, "bnSubmit");
     bool valid = true;
     const auto isValid = [&] {
         return QMetaObject::invokeMethod(&window(dialog), "validate", Q_RETURN_ARG(bool, valid)) && valid;
     };
-    QVERIFY(!submit.isEnabled());
     QTest::keyClicks(&child(dialog, "edSubject"), QStringLiteral(" "));
     QVERIFY(!submit.isEnabled() && !isValid());
     QTest::keyClicks(&child(dialog, "txIssueDetails"), QStringLiteral("d"));
@@ -92,40 +81,39 @@ void TicketTest::submitNeedsSubjectAndDetails()
     QTest::keyClick(&child(dialog, "edSubject"), Qt::Key_Backspace);
     QVERIFY(!submit.isEnabled() && !isValid());
     QTest::keyClicks(&child(dialog, "edSubject"), QStringLiteral("s"));
-    click(dialog, "bnSubmit");
-    QCOMPARE(takeEvents(), QStringList{submitted});
-    QVERIFY(window(dialog).isVisible());
+    QCOMPARE(tabOrder(dialog),
+             QStringLiteral("edSubject cbDepartment cbPriorityLevel txIssueDetails ckIncludeDeviceData bnSubmit "
+                            "bnCancel"));
+    checkEvents(dialog, QStringLiteral("bnSubmit"), submitted);
+    QVERIFY(window(dialog).windowFlags().testFlag(Qt::WindowStaysOnTopHint));
     QCOMPARE(dialog->getSubject() + dialog->getIssueDetails(), QStringLiteral("sd"));
 }
 
 void TicketTest::submitKeys_data()
 {
-    QTest::addColumn<QByteArray>("field");
-    QTest::addColumn<QString>("details");
-    QTest::addColumn<bool>("accepted");
-    QTest::newRow("complete, from the subject") << QByteArray("edSubject") << QStringLiteral("details") << true;
-    QTest::newRow("complete, from a list") << QByteArray("cbDepartment") << QStringLiteral("details") << true;
-    QTest::newRow("complete, from the check box") << QByteArray("ckIncludeDeviceData") << QStringLiteral("d") << true;
-    QTest::newRow("incomplete") << QByteArray("edSubject") << QString() << false;
-    QTest::newRow("a new line in the details") << QByteArray("txIssueDetails") << QStringLiteral("details") << false;
+    textColumns({"field", "details", "event"});
+    for (const char* field : {"edSubject", "cbDepartment", "ckIncludeDeviceData"})
+        textRow({field, "details", "evSubmit"});
+    textRow({"edSubject", "", ""});
+    textRow({"txIssueDetails", "details", ""});
 }
 
 void TicketTest::submitKeys()
 {
-    QFETCH(QByteArray, field);
+    QFETCH(QString, field);
     QFETCH(QString, details);
-    QFETCH(bool, accepted);
+    QFETCH(QString, event);
     auto* dialog = show<IServiceDeskTicketDialog>();
     dialog->setSubject(QStringLiteral("subject"));
     dialog->setIssueDetails(details);
-    child(dialog, field.constData()).setFocus();
+    child(dialog, qPrintable(field)).setFocus();
     press(dialog, Qt::Key_Return);
-    QCOMPARE(takeEvents(), accepted ? QStringList{submitted} : QStringList());
-    QCOMPARE(window(dialog).isVisible(), !accepted);
+    QCOMPARE(takeEvents().join(QString()), event);
+    QCOMPARE(window(dialog).isVisible(), event.isEmpty());
     // A submission that fails later finds everything where it was.
     dialog->show();
     QCOMPARE(dialog->getSubject(), QStringLiteral("subject"));
-    QVERIFY(dialog->getIssueDetails().trimmed() == details);
+    QCOMPARE(dialog->getIssueDetails().trimmed(), details);
 }
 
 void TicketTest::hostMayAnswerByAccepting()
@@ -146,61 +134,47 @@ void TicketTest::hostMayAnswerByAccepting()
 
 void TicketTest::untouchedFormCloses_data()
 {
-    QTest::addColumn<std::function<void(IBaseDialog*)>>("close");
-    using Close = std::function<void(IBaseDialog*)>;
-    QTest::newRow("cancel") << Close([](IBaseDialog* dialog) { click(dialog, "bnCancel"); });
-    QTest::newRow("close button") << Close([](IBaseDialog* dialog) { click(dialog, "btnClose"); });
-    QTest::newRow("escape") << Close([](IBaseDialog* dialog) { press(dialog, Qt::Key_Escape); });
-    QTest::newRow("system") << Close([](IBaseDialog* dialog) { QVERIFY(!window(dialog).close()); });
+    textColumns({"action"});
+    for (const char* action : {"bnCancel", "btnClose", "Escape", "close"})
+        textRow({action});
 }
 
 void TicketTest::untouchedFormCloses()
 {
-    using Close = std::function<void(IBaseDialog*)>;
-    QFETCH(Close, close);
+    QFETCH(QString, action);
     auto* dialog = show<IServiceDeskTicketDialog>();
-    close(dialog);
-    QCOMPARE(takeEvents(), QStringList{cancelled});
-    QVERIFY(window(dialog).isVisible());
-
+    checkEvents(dialog, action, cancelled);
     QTest::keyClicks(&child(dialog, "edSubject"), QStringLiteral("typed"));
     answerNext(QMessageBox::Cancel);
-    close(dialog);
-    QVERIFY(takeEvents().isEmpty());
+    checkEvents(dialog, action, QString());
     QCOMPARE(dialog->getSubject(), QStringLiteral("typed"));
 }
 
 void TicketTest::editsAreNotLostUnasked_data()
 {
-    QTest::addColumn<QByteArray>("field");
-    QTest::addColumn<int>("key");
-    QTest::newRow("subject") << QByteArray("edSubject") << int(Qt::Key_A);
-    QTest::newRow("department") << QByteArray("cbDepartment") << int(Qt::Key_Down);
-    QTest::newRow("priority") << QByteArray("cbPriorityLevel") << int(Qt::Key_Down);
-    QTest::newRow("details") << QByteArray("txIssueDetails") << int(Qt::Key_A);
-    QTest::newRow("device data") << QByteArray("ckIncludeDeviceData") << int(Qt::Key_Space);
+    textColumns({"field", "key"});
+    textRow({"edSubject", "A"});
+    textRow({"cbDepartment", "Down"});
+    textRow({"cbPriorityLevel", "Down"});
+    textRow({"txIssueDetails", "A"});
+    textRow({"ckIncludeDeviceData", "Space"});
 }
 
 void TicketTest::editsAreNotLostUnasked()
 {
-    QFETCH(QByteArray, field);
-    QFETCH(int, key);
+    QFETCH(QString, field);
+    QFETCH(QString, key);
     auto* dialog = get<IServiceDeskTicketDialog>();
     dialog->setDepartments({QStringLiteral("IT"), QStringLiteral("HR")});
     dialog->setPriorities({QStringLiteral("Low"), QStringLiteral("High")});
     showActive(dialog);
-    child(dialog, field.constData()).setFocus();
-    press(dialog, static_cast<Qt::Key>(key));
-
+    child(dialog, qPrintable(field)).setFocus();
+    act(dialog, key);
     answerNext(QMessageBox::Cancel);
-    press(dialog, Qt::Key_Escape);
-    QVERIFY(takeEvents().isEmpty());
+    checkEvents(dialog, QStringLiteral("Escape"), QString());
     answerNext(QMessageBox::Discard);
-    press(dialog, Qt::Key_Escape);
-    QCOMPARE(takeEvents(), QStringList{cancelled});
     // Discarded is discarded: nothing is left to ask about.
-    press(dialog, Qt::Key_Escape);
-    QCOMPARE(takeEvents(), QStringList{cancelled});
+    checkEvents(dialog, QStringLiteral("Escape Escape"), cancelled);
 }
 
 void TicketTest::discardQuestion()
@@ -254,16 +228,14 @@ void TicketTest::hostValuesAreNoEdits()
     dialog->setIncludeDeviceData(true);
     dialog->setSubjectMaxLength(3);
     dialog->setIssueDetailsMaxLength(100);
-    QVERIFY(child<QPushButton>(dialog, "bnSubmit").isEnabled());
-    press(dialog, Qt::Key_Escape);
-    QCOMPARE(takeEvents(), QStringList{cancelled});
+    QVERIFY(child(dialog, "bnSubmit").isEnabled());
+    checkEvents(dialog, QStringLiteral("Escape"), cancelled);
 
     // What the person edited before stays an edit.
     QTest::keyClick(&child(dialog, "ckIncludeDeviceData"), Qt::Key_Space);
     dialog->setSubject(QStringLiteral("other"));
     answerNext(QMessageBox::Discard);
-    press(dialog, Qt::Key_Escape);
-    QCOMPARE(takeEvents(), QStringList{cancelled});
+    checkEvents(dialog, QStringLiteral("Escape"), cancelled);
 }
 
 void TicketTest::choices()
@@ -305,9 +277,7 @@ void TicketTest::limitValues_data()
     QTest::addColumn<int>("subjectLimit");
     QTest::addColumn<QString>("placeholder");
     QTest::newRow("some") << 120 << 120 << QStringLiteral("Required (max. 120 chars)");
-    QTest::newRow("one") << 1 << 1 << QStringLiteral("Required (max. 1 chars)");
     QTest::newRow("none") << 0 << 32767 << QStringLiteral("Required");
-    QTest::newRow("negative") << -5 << 32767 << QStringLiteral("Required");
     QTest::newRow("smallest") << std::numeric_limits<int>::min() << 32767 << QStringLiteral("Required");
 }
 
@@ -441,15 +411,15 @@ void TicketTest::lateLimitKeepsDetails()
     dialog->setSubject(QStringLiteral("subject"));
     auto& details = child<QTextEdit>(dialog, "txIssueDetails");
     paste(details, QStringLiteral("abcdef"));
-    QVERIFY(child<QPushButton>(dialog, "bnSubmit").isEnabled());
+    QVERIFY(child(dialog, "bnSubmit").isEnabled());
     dialog->setIssueDetailsMaxLength(3);
     QCOMPARE(dialog->getIssueDetails(), QStringLiteral("abcdef"));
-    QVERIFY(!child<QPushButton>(dialog, "bnSubmit").isEnabled());
+    QVERIFY(!child(dialog, "bnSubmit").isEnabled());
     dialog->done(1);
     QVERIFY(takeEvents().isEmpty());
     QTest::keyClick(&details, Qt::Key_Backspace);
     QCOMPARE(dialog->getIssueDetails(), QStringLiteral("abc"));
-    QVERIFY(child<QPushButton>(dialog, "bnSubmit").isEnabled());
+    QVERIFY(child(dialog, "bnSubmit").isEnabled());
 }
 
 void TicketTest::detailsAreNeverMarkup()
@@ -469,21 +439,5 @@ void TicketTest::detailsAreNeverMarkup()
     QCOMPARE(details.textCursor().blockFormat().headingLevel(), 0);
 }
 
-void TicketTest::keyboardReachesEverything()
-{
-    auto* dialog = get<IServiceDeskTicketDialog>();
-    dialog->setSubject(QStringLiteral("subject"));
-    dialog->setIssueDetails(QStringLiteral("details"));
-    showActive(dialog);
-    for (const char* name : {"edSubject", "cbDepartment", "cbPriorityLevel", "txIssueDetails", "ckIncludeDeviceData",
-                             "bnSubmit", "bnCancel", "edSubject"}) {
-        QCOMPARE(window(dialog).focusWidget()->objectName(), QLatin1String(name));
-        press(dialog, Qt::Key_Tab);
-    }
-    QCOMPARE(window(dialog).windowTitle(), QStringLiteral(" Tavik Submit ticket"));
-    QVERIFY(window(dialog).windowFlags().testFlag(Qt::WindowStaysOnTopHint));
-}
-
-Q_DECLARE_METATYPE(std::function<void(IBaseDialog*)>)
 GUI_TEST_MAIN(TicketTest)
 #include "tst_ticket.moc"
