@@ -35,10 +35,9 @@ private Q_SLOTS:
     void windows();
     void accessModes_data();
     void accessModes();
+    void firstFieldIsOfTheChosenWay();
     void accessModeMovesTheChoice();
     void choosingByClickAndKey();
-    void firstFieldOfTheChosenWay_data();
-    void firstFieldOfTheChosenWay();
     void attachments();
 };
 
@@ -76,14 +75,10 @@ void CredentialsTest::events()
 
 void CredentialsTest::textIsReturnedAsTyped_data()
 {
-    textColumns({"name", "property", "field"});
+    passwordsAreKept_data();
     textRow({"AuthorizationDialog", "username", "edEmail"});
     textRow({"EnterPasswordDialog", "domain", "editDomain"});
     textRow({"EnterPasswordDialog", "login", "editLogin"});
-    textRow({"AuthorizationDialog", "password", "edPassword"});
-    textRow({"ZentPasswordDialog", "password", "edPassword"});
-    textRow({"EnterPasswordDialog", "administratorPassword", "editAdministratorPassword"});
-    textRow({"EnterPasswordDialog", "zentPassword", "editZentPassword"});
 }
 
 void CredentialsTest::textIsReturnedAsTyped()
@@ -108,11 +103,11 @@ void CredentialsTest::textIsReturnedAsTyped()
 
 void CredentialsTest::passwordsAreKept_data()
 {
-    textColumns({"name", "field"});
-    textRow({"AuthorizationDialog", "edPassword"});
-    textRow({"ZentPasswordDialog", "edPassword"});
-    textRow({"EnterPasswordDialog", "editAdministratorPassword"});
-    textRow({"EnterPasswordDialog", "editZentPassword"});
+    textColumns({"name", "property", "field"});
+    textRow({"AuthorizationDialog", "password", "edPassword"});
+    textRow({"ZentPasswordDialog", "password", "edPassword"});
+    textRow({"EnterPasswordDialog", "administratorPassword", "editAdministratorPassword"});
+    textRow({"EnterPasswordDialog", "zentPassword", "editZentPassword"});
 }
 
 void CredentialsTest::passwordsAreKept()
@@ -304,8 +299,21 @@ void CredentialsTest::accessModes()
         QCOMPARE(child(dialog, name).isEnabled(), custom);
     QVERIFY(child(dialog, "buttonOk").isEnabled());
     QTEST(dialog->isCustomPasswordSelected(), "customSelected");
-    QTEST(child<QRadioButton>(dialog, "radioButtonZentModeAccess").isChecked(), "customSelected");
     QCOMPARE(dialog->getZentPassword(), QStringLiteral("typed"));
+}
+
+void CredentialsTest::firstFieldIsOfTheChosenWay()
+{
+    auto* dialog = get<IEnterPasswordDialog>();
+    for (const bool custom : {false, true}) {
+        for (const int mode : {custom ? 1 : 0, 2}) {
+            dialog->setAccessMode(mode);
+            dialog->setCustomPasswordSelected(custom);
+            showActive(dialog);
+            QCOMPARE(window(dialog).focusWidget(), &child(dialog, custom ? "editZentPassword" : "editDomain"));
+            dialog->hide();
+        }
+    }
 }
 
 void CredentialsTest::accessModeMovesTheChoice()
@@ -337,29 +345,6 @@ void CredentialsTest::choosingByClickAndKey()
     QVERIFY(administrator.isChecked() && !custom.isChecked());
     QVERIFY(child(dialog, "editZentPassword").isEnabled());
     checkEvents(dialog, QStringLiteral("Return"), QStringLiteral("evOk"));
-}
-
-void CredentialsTest::firstFieldOfTheChosenWay_data()
-{
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<bool>("custom");
-    QTest::addColumn<QString>("field");
-    QTest::newRow("administrator") << 0 << false << QStringLiteral("editDomain");
-    QTest::newRow("custom password") << 1 << false << QStringLiteral("editZentPassword");
-    QTest::newRow("either") << 2 << false << QStringLiteral("editDomain");
-    QTest::newRow("either, custom chosen") << 2 << true << QStringLiteral("editZentPassword");
-}
-
-void CredentialsTest::firstFieldOfTheChosenWay()
-{
-    QFETCH(int, mode);
-    QFETCH(bool, custom);
-    auto* dialog = get<IEnterPasswordDialog>();
-    dialog->setAccessMode(mode);
-    if (custom)
-        dialog->setCustomPasswordSelected(true);
-    showActive(dialog);
-    QTEST(window(dialog).focusWidget()->objectName(), "field");
 }
 
 void CredentialsTest::attachments()

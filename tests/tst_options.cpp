@@ -43,37 +43,30 @@ void OptionsTest::events()
 
 void OptionsTest::saveFollowsTheProxy_data()
 {
-    QTest::addColumn<bool>("proxy");
-    QTest::addColumn<QString>("address");
-    QTest::addColumn<bool>("authentication");
-    QTest::addColumn<QString>("login");
-    QTest::addColumn<bool>("canSave");
-    const QString nothing;
-    const QString blank = QStringLiteral(" ");
-    const QString some = QStringLiteral("some");
-    QTest::newRow("no proxy") << false << nothing << false << nothing << true;
-    QTest::newRow("no proxy, login missing") << false << nothing << true << nothing << true;
-    QTest::newRow("no host") << true << nothing << false << nothing << false;
-    QTest::newRow("no host, but a login") << true << nothing << true << some << false;
-    QTest::newRow("blank host") << true << blank << false << nothing << true;
-    QTest::newRow("login missing") << true << some << true << nothing << false;
-    QTest::newRow("blank login") << true << some << true << blank << true;
+    textColumns({"proxy", "address", "authentication", "login", "event"});
+    textRow({"", "", "", "", "evSave"});
+    textRow({"", "", "on", "", "evSave"});
+    textRow({"on", "", "", "", ""});
+    textRow({"on", "", "on", "anna", ""});
+    textRow({"on", " ", "", "", "evSave"});
+    textRow({"on", "proxy.example", "on", "", ""});
+    textRow({"on", "proxy.example", "on", " ", "evSave"});
 }
 
 void OptionsTest::saveFollowsTheProxy()
 {
-    QFETCH(bool, proxy);
+    QFETCH(QString, proxy);
     QFETCH(QString, address);
-    QFETCH(bool, authentication);
+    QFETCH(QString, authentication);
     QFETCH(QString, login);
-    QFETCH(bool, canSave);
+    QFETCH(QString, event);
     auto* dialog = show<IOptionDialog>();
     QVERIFY(child(dialog, "btnSave").isEnabled());
-    dialog->setProxyEnabled(proxy);
-    dialog->setProxyAuthEnabled(authentication);
+    dialog->setProxyEnabled(!proxy.isEmpty());
+    dialog->setProxyAuthEnabled(!authentication.isEmpty());
     dialog->setProxyAddress(address);
     dialog->setProxyLogin(login);
-    checkEvents(dialog, QStringLiteral("btnSave"), canSave ? QStringLiteral("evSave") : QString());
+    checkEvents(dialog, QStringLiteral("btnSave"), event);
 }
 
 void OptionsTest::returnSavesEvenIncomplete()

@@ -16,8 +16,6 @@
 namespace {
 const QString submitted = QStringLiteral("evSubmit");
 const QString cancelled = QStringLiteral("evCancel");
-const QString smiley = QStringLiteral("\U0001F600");
-const QString accentedE = QStringLiteral("e\u0301");
 } // namespace
 
 /// The ticket form: what may be submitted, what its limits keep out, and that nothing typed gets lost unasked.
@@ -241,27 +239,26 @@ void TicketTest::hostValuesAreNoEdits()
 void TicketTest::choices()
 {
     auto* dialog = get<IServiceDeskTicketDialog>();
-    QCOMPARE(dialog->getDepartmentIndex(), -1);
-    QCOMPARE(dialog->getPriorityIndex(), -1);
-    QVERIFY(dialog->getDepartment().isEmpty() && dialog->getPriority().isEmpty());
-
+    QVERIFY(dialog->getDepartmentIndex() == -1 && dialog->getDepartment().isEmpty());
+    QVERIFY(dialog->getPriorityIndex() == -1 && dialog->getPriority().isEmpty());
     QStringList many;
     for (int i = 0; i < 20000; ++i)
         many << QStringLiteral("Department & %1 <b>").arg(i);
     dialog->setDepartments(many);
     QCOMPARE(dialog->getDepartment(), many.first());
-    dialog->setDepartment(many.last());
-    dialog->setDepartment(QStringLiteral("no such department"));
-    QCOMPARE(dialog->getDepartmentIndex(), many.size() - 1);
-    QCOMPARE(dialog->getDepartment(), many.last());
+    for (const QString& department : {many.last(), QStringLiteral("no such department"), many.first().toLower()}) {
+        dialog->setDepartment(department);
+        QCOMPARE(dialog->getDepartmentIndex(), many.size() - 1);
+        QCOMPARE(dialog->getDepartment(), many.last());
+    }
     dialog->setDepartments({});
     QCOMPARE(dialog->getDepartmentIndex(), -1);
-
     dialog->setPriorities({QStringLiteral("Low"), QString(), QStringLiteral("High")});
-    dialog->setPriority(QStringLiteral("High"));
-    QCOMPARE(dialog->getPriorityIndex(), 2);
-    dialog->setPriority(QStringLiteral("high"));
-    QCOMPARE(dialog->getPriority(), QStringLiteral("High"));
+    for (const char* priority : {"High", "high"}) {
+        dialog->setPriority(QLatin1String(priority));
+        QCOMPARE(dialog->getPriorityIndex(), 2);
+        QCOMPARE(dialog->getPriority(), QStringLiteral("High"));
+    }
 
     QVERIFY(!dialog->isIncludeDeviceData());
     showActive(dialog);
@@ -287,32 +284,25 @@ void TicketTest::limitValues()
     auto* dialog = get<IServiceDeskTicketDialog>();
     QCOMPARE(dialog->getSubjectMaxLength(), 32767);
     QCOMPARE(dialog->getIssueDetailsMaxLength(), 0);
-    const auto& subject = child<QLineEdit>(dialog, "edSubject");
-    const auto& details = child<QTextEdit>(dialog, "txIssueDetails");
-    QCOMPARE(subject.placeholderText() + details.placeholderText(), QStringLiteral("RequiredRequired"));
-
     dialog->setSubjectMaxLength(limit);
     dialog->setIssueDetailsMaxLength(limit);
     QTEST(dialog->getSubjectMaxLength(), "subjectLimit");
     QCOMPARE(dialog->getIssueDetailsMaxLength(), limit);
-    QTEST(subject.placeholderText(), "placeholder");
-    QTEST(details.placeholderText(), "placeholder");
+    QTEST(child<QLineEdit>(dialog, "edSubject").placeholderText(), "placeholder");
+    QTEST(child<QTextEdit>(dialog, "txIssueDetails").placeholderText(), "placeholder");
 }
 
 void TicketTest::detailsLimit_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("kept");
-    const QString four = QStringLiteral("abcd");
-    QTest::newRow("shorter") << four << four;
-    QTest::newRow("exact") << QStringLiteral("abcde") << QStringLiteral("abcde");
-    QTest::newRow("longer") << QStringLiteral("abcdefgh") << QStringLiteral("abcde");
-    QTest::newRow("lines") << QStringLiteral("a\nb\n\nc\nd") << QStringLiteral("a\nb\n\n");
-    QTest::newRow("pair fits") << QStringLiteral("abc") + smiley + four << QStringLiteral("abc") + smiley;
-    QTest::newRow("pair at the limit") << four + smiley << four;
-    QTest::newRow("mark fits") << QStringLiteral("abc") + accentedE + four << QStringLiteral("abc") + accentedE;
-    QTest::newRow("mark at the limit") << four + accentedE << four;
-    QTest::newRow("megabyte") << four + QString(1 << 20, QLatin1Char('x')) << QStringLiteral("abcdx");
+    textColumns({"text", "kept"});
+    textRow({"abcd", "abcd"});
+    textRow({"abcde", "abcde"});
+    textRow({"a\nb\n\nc\nd", "a\nb\n\n"});
+    textRow({"abc\U0001F600abcd", "abc\U0001F600"});
+    textRow({"abcd\U0001F600", "abcd"});
+    textRow({"abce\u0301abcd", "abce\u0301"});
+    textRow({"abcde\u0301", "abcd"});
+    textRow({QByteArray(1 << 20, 'x').constData(), "xxxxx"});
 }
 
 void TicketTest::detailsLimit()
@@ -333,11 +323,10 @@ void TicketTest::detailsLimit()
 
 void TicketTest::typingAtTheLimit_data()
 {
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<QString>("typed");
-    QTest::newRow("letter") << QStringLiteral("abc") << QStringLiteral("d");
-    QTest::newRow("combining mark") << QStringLiteral("abe") << QStringLiteral("\u0301");
-    QTest::newRow("joined to a smiley") << QStringLiteral("a") + smiley << QStringLiteral("\u200d");
+    textColumns({"before", "typed"});
+    textRow({"abc", "d"});
+    textRow({"abe", "\u0301"});
+    textRow({"a\U0001F600", "\u200d"});
 }
 
 void TicketTest::typingAtTheLimit()
@@ -372,35 +361,28 @@ void TicketTest::undoAfterCut()
 
 void TicketTest::subjectLimit_data()
 {
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<int>("cursor");
-    QTest::addColumn<QString>("pasted");
-    QTest::addColumn<QString>("after");
-    const QString abc = QStringLiteral("abc");
-    QTest::newRow("longer") << QString() << 0 << QStringLiteral("abcdef") << QStringLiteral("abcd");
-    QTest::newRow("pair at the limit") << QString() << 0 << abc + smiley << abc;
-    QTest::newRow("pair into the middle") << abc << 1 << smiley << abc;
-    QTest::newRow("pair fits") << QString() << 0 << QStringLiteral("ab") + smiley + abc
-                               << QStringLiteral("ab") + smiley;
+    textColumns({"before", "pasted", "after"});
+    textRow({"", "abcdef", "abcd"});
+    textRow({"", "abc\U0001F600", "abc"});
+    textRow({"abc", "\U0001F600", "abc"});
+    textRow({"", "ab\U0001F600abc", "ab\U0001F600"});
 }
 
 void TicketTest::subjectLimit()
 {
     QFETCH(QString, before);
-    QFETCH(int, cursor);
     QFETCH(QString, pasted);
-    QFETCH(QString, after);
     auto* dialog = show<IServiceDeskTicketDialog>();
     dialog->setSubjectMaxLength(4);
     dialog->setSubject(before);
     auto& subject = child<QLineEdit>(dialog, "edSubject");
-    subject.setCursorPosition(cursor);
+    subject.setCursorPosition(1);
     paste(subject, pasted);
-    QCOMPARE(dialog->getSubject(), after);
+    QTEST(dialog->getSubject(), "after");
 
-    // The same text, there before its limit.
+    // A limit that comes later cuts as well.
     dialog->setSubjectMaxLength(0);
-    dialog->setSubject(QStringLiteral("abc") + smiley);
+    dialog->setSubject(QStringLiteral("abc\U0001F600"));
     dialog->setSubjectMaxLength(4);
     QCOMPARE(dialog->getSubject(), QStringLiteral("abc"));
 }
