@@ -63,6 +63,7 @@ void RebootTest::shownAgainItIsSafeAgain()
     QVERIFY(!window(dialog).isVisible());
     QCOMPARE(takeEvents(), QStringList({QStringLiteral("evRebootNow"), QStringLiteral("evClosed")}));
     showActive(dialog);
+    QTest::sendKeyEvent(QTest::Click, window(dialog).focusWidget(), Qt::Key_Cancel, QString(), Qt::NoModifier);
     press(dialog, Qt::Key_Space);
     child<QComboBox>(dialog, "timeoutComboBox").hidePopup();
     checkEvents(dialog, QStringLiteral("Return"), QStringLiteral("evPostpone"));
