@@ -1,10 +1,6 @@
 #include "GuiTest.h"
-#include "IOptionDialog.h"
 
-#include <QCheckBox>
-#include <QGroupBox>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QSpinBox>
 
 /// The options: what can be saved, what the groups switch off, and that values come back as they were typed.
@@ -20,85 +16,57 @@ private Q_SLOTS:
     void saveFollowsTyping();
     void groupsSwitchTheirFields();
     void valuesComeBack();
-    void ports_data();
     void ports();
-    void typedPort();
     void hiddenParts();
-    void groupsFitAtEveryRatio_data();
     void groupsFitAtEveryRatio();
     void keyboardReachesEverything();
 };
 
 void OptionsTest::events_data()
 {
-    QTest::addColumn<QByteArray>("button");
-    QTest::addColumn<QByteArray>("slot");
-    QTest::addColumn<QString>("event");
-    const QString close = QStringLiteral("evClose");
-    const QString save = QStringLiteral("evSave");
-    QTest::newRow("close button") << QByteArray("btnClose") << QByteArray() << close;
-    QTest::newRow("cancel") << QByteArray("btnCancel") << QByteArray() << close;
-    QTest::newRow("save") << QByteArray("btnSave") << QByteArray() << save;
-    QTest::newRow("accept") << QByteArray() << QByteArray("accept") << save;
-    QTest::newRow("reject") << QByteArray() << QByteArray("reject") << close;
-    QTest::newRow("system") << QByteArray() << QByteArray("close") << close;
-    QTest::newRow("deactivation") << QByteArray() << QByteArray("slDeactivateAccount")
-                                  << QStringLiteral("evDeactivate");
+    textColumns({"actions", "event"});
+    textRow({"reject() close btnClose btnCancel", "evClose"});
+    textRow({"accept() btnSave", "evSave"});
+    textRow({"slDeactivateAccount()", "evDeactivate"});
+    textRow({"Escape", ""});
 }
 
 void OptionsTest::events()
 {
-    QFETCH(QByteArray, button);
-    QFETCH(QByteArray, slot);
+    QFETCH(QString, actions);
     QFETCH(QString, event);
     auto* dialog = show<IOptionDialog>();
-    if (button.isEmpty())
-        QVERIFY(QMetaObject::invokeMethod(&window(dialog), slot.constData()));
-    else
-        click(dialog, button.constData());
-    QCOMPARE(takeEvents(), QStringList{event});
-    press(dialog, Qt::Key_Escape);
-    QVERIFY(takeEvents().isEmpty());
-    QVERIFY(window(dialog).isVisible());
+    checkEvents(dialog, actions, event);
     QCOMPARE(window(dialog).windowModality(), Qt::ApplicationModal);
     QCOMPARE(window(dialog).windowTitle(), QStringLiteral(" Tavik Options"));
 }
 
 void OptionsTest::saveFollowsTheProxy_data()
 {
-    QTest::addColumn<bool>("proxy");
-    QTest::addColumn<QString>("address");
-    QTest::addColumn<bool>("authentication");
-    QTest::addColumn<QString>("login");
-    QTest::addColumn<bool>("canSave");
-    const QString host = QStringLiteral("proxy.example");
-    QTest::newRow("no proxy") << false << QString() << false << QString() << true;
-    QTest::newRow("no proxy, login missing") << false << QString() << true << QString() << true;
-    QTest::newRow("no host") << true << QString() << false << QString() << false;
-    QTest::newRow("no host, but a login") << true << QString() << true << QStringLiteral("anna") << false;
-    QTest::newRow("host") << true << host << false << QString() << true;
-    QTest::newRow("blank host") << true << QStringLiteral(" ") << false << QString() << true;
-    QTest::newRow("login missing") << true << host << true << QString() << false;
-    QTest::newRow("blank login") << true << host << true << QStringLiteral(" ") << true;
-    QTest::newRow("complete") << true << host << true << QStringLiteral("anna") << true;
+    textColumns({"proxy", "address", "authentication", "login", "event"});
+    textRow({"", "", "", "", "evSave"});
+    textRow({"", "", "on", "", "evSave"});
+    textRow({"on", "", "", "", ""});
+    textRow({"on", "", "on", "anna", ""});
+    textRow({"on", " ", "", "", "evSave"});
+    textRow({"on", "proxy.example", "on", "", ""});
+    textRow({"on", "proxy.example", "on", " ", "evSave"});
 }
 
 void OptionsTest::saveFollowsTheProxy()
 {
-    QFETCH(bool, proxy);
+    QFETCH(QString, proxy);
     QFETCH(QString, address);
-    QFETCH(bool, authentication);
+    QFETCH(QString, authentication);
     QFETCH(QString, login);
-    QFETCH(bool, canSave);
+    QFETCH(QString, event);
     auto* dialog = show<IOptionDialog>();
     QVERIFY(child(dialog, "btnSave").isEnabled());
-    dialog->setProxyEnabled(proxy);
-    dialog->setProxyAuthEnabled(authentication);
+    dialog->setProxyEnabled(!proxy.isEmpty());
+    dialog->setProxyAuthEnabled(!authentication.isEmpty());
     dialog->setProxyAddress(address);
     dialog->setProxyLogin(login);
-    QCOMPARE(child(dialog, "btnSave").isEnabled(), canSave);
-    click(dialog, "btnSave");
-    QCOMPARE(takeEvents().size(), canSave ? 1 : 0);
+    checkEvents(dialog, QStringLiteral("btnSave"), event);
 }
 
 void OptionsTest::returnSavesEvenIncomplete()
@@ -108,46 +76,41 @@ void OptionsTest::returnSavesEvenIncomplete()
     QVERIFY(!child(dialog, "btnSave").isEnabled());
     for (const char* name : {"edtAdress", "spnbxPort", "chkShowIcon", "proxyGroupBox"}) {
         child(dialog, name).setFocus();
-        press(dialog, Qt::Key_Return);
-        QCOMPARE(takeEvents(), QStringList{QStringLiteral("evSave")});
+        checkEvents(dialog, QStringLiteral("Return"), QStringLiteral("evSave"));
     }
     // A focused button takes the key for itself.
     child(dialog, "btnCancel").setFocus();
-    press(dialog, Qt::Key_Enter);
-    QCOMPARE(takeEvents(), QStringList{QStringLiteral("evClose")});
+    checkEvents(dialog, QStringLiteral("Enter"), QStringLiteral("evClose"));
 }
 
 void OptionsTest::saveFollowsTyping()
 {
     auto* dialog = show<IOptionDialog>();
-    const auto& save = child<QPushButton>(dialog, "btnSave");
-    child(dialog, "proxyGroupBox").setFocus();
-    press(dialog, Qt::Key_Space);
-    QVERIFY(dialog->isProxyEnabled() && !save.isEnabled());
-    QTest::keyClicks(&child(dialog, "edtAdress"), QStringLiteral("p"));
-    QVERIFY(save.isEnabled());
-    child(dialog, "proxyAuthGroupBox").setFocus();
-    press(dialog, Qt::Key_Space);
-    QVERIFY(dialog->isProxyAuthEnabled() && !save.isEnabled());
-    QTest::keyClicks(&child(dialog, "edtProxyLogin"), QStringLiteral("l"));
-    QVERIFY(save.isEnabled());
-    QTest::keyClick(&child(dialog, "edtAdress"), Qt::Key_Backspace);
-    QVERIFY(!save.isEnabled());
+    const auto typeInto = [dialog](const char* name, Qt::Key key) {
+        child(dialog, name).setFocus();
+        press(dialog, key);
+        return child(dialog, "btnSave").isEnabled();
+    };
+    QVERIFY(!typeInto("proxyGroupBox", Qt::Key_Space));
+    QVERIFY(typeInto("edtAdress", Qt::Key_P));
+    QVERIFY(!typeInto("proxyAuthGroupBox", Qt::Key_Space));
+    QVERIFY(typeInto("edtProxyLogin", Qt::Key_L));
+    QVERIFY(!typeInto("edtAdress", Qt::Key_Backspace));
+    QVERIFY(dialog->isProxyEnabled() && dialog->isProxyAuthEnabled());
 }
 
 void OptionsTest::groupsSwitchTheirFields()
 {
     auto* dialog = show<IOptionDialog>();
-    const auto enabled = [dialog](const char* name) { return child(dialog, name).isEnabled(); };
     for (const bool authentication : {false, true}) {
-        dialog->setProxyAuthEnabled(authentication);
-        dialog->setProxyEnabled(false);
-        QVERIFY(!enabled("edtAdress") && !enabled("spnbxPort") && !enabled("proxyAuthGroupBox"));
-        QVERIFY(!enabled("edtProxyLogin") && !enabled("edtProxyPassword"));
-        dialog->setProxyEnabled(true);
-        QVERIFY(enabled("edtAdress") && enabled("spnbxPort") && enabled("proxyAuthGroupBox"));
-        QCOMPARE(enabled("edtProxyLogin"), authentication);
-        QCOMPARE(enabled("edtProxyPassword"), authentication);
+        for (const bool proxy : {false, true}) {
+            dialog->setProxyAuthEnabled(authentication);
+            dialog->setProxyEnabled(proxy);
+            for (const char* name : {"edtAdress", "spnbxPort", "proxyAuthGroupBox"})
+                QCOMPARE(child(dialog, name).isEnabled(), proxy);
+            for (const char* name : {"edtProxyLogin", "edtProxyPassword"})
+                QCOMPARE(child(dialog, name).isEnabled(), proxy && authentication);
+        }
     }
 }
 
@@ -156,44 +119,30 @@ void OptionsTest::valuesComeBack()
     auto* dialog = get<IOptionDialog>();
     QVERIFY(!dialog->isShowTrayIcon() && !dialog->isAutoUpdate());
     QVERIFY(!dialog->isProxyEnabled() && !dialog->isProxyAuthEnabled());
-    const QString text = QStringLiteral("  <b>&amp; %1 ") + QString(1000, QLatin1Char('x')) + QLatin1Char(' ');
     for (const bool value : {true, false}) {
         dialog->setShowTrayIcon(value);
         dialog->setAutoUpdate(!value);
         QCOMPARE(dialog->isShowTrayIcon(), value);
         QCOMPARE(dialog->isAutoUpdate(), !value);
     }
-    dialog->setProxyAddress(text + QLatin1Char('a'));
-    dialog->setProxyLogin(text + QLatin1Char('l'));
-    dialog->setProxyPassword(text + QLatin1Char('p'));
-    QCOMPARE(dialog->getProxyAddress(), text + QLatin1Char('a'));
-    QCOMPARE(dialog->getProxyLogin(), text + QLatin1Char('l'));
-    QCOMPARE(dialog->getProxyPassword(), text + QLatin1Char('p'));
+    const QString text = QStringLiteral("%1  <b>&amp; ") + QString(1000, QLatin1Char('x')) + QLatin1Char(' ');
+    dialog->setProxyAddress(text.arg(1));
+    dialog->setProxyLogin(text.arg(2));
+    dialog->setProxyPassword(text.arg(3));
+    QCOMPARE(dialog->getProxyAddress(), text.arg(1));
+    QCOMPARE(dialog->getProxyLogin(), text.arg(2));
+    QCOMPARE(dialog->getProxyPassword(), text.arg(3));
     QCOMPARE(child<QLineEdit>(dialog, "edtProxyPassword").echoMode(), QLineEdit::Password);
     QVERIFY(messages().filter(QLatin1String("xxx")).isEmpty());
 }
 
-void OptionsTest::ports_data()
-{
-    QTest::addColumn<int>("port");
-    QTest::addColumn<int>("shown");
-    QTest::newRow("0") << 0 << 1;
-    QTest::newRow("1") << 1 << 1;
-    QTest::newRow("8080") << 8080 << 8080;
-    QTest::newRow("65535") << 65535 << 65535;
-}
-
 void OptionsTest::ports()
 {
-    QFETCH(int, port);
-    auto* dialog = get<IOptionDialog>();
-    dialog->setProxyPort(static_cast<quint16>(port));
-    QTEST(dialog->getProxyPort(), "shown");
-}
-
-void OptionsTest::typedPort()
-{
     auto* dialog = show<IOptionDialog>();
+    for (const quint16 port : {0, 1, 8080, 65535}) {
+        dialog->setProxyPort(port);
+        QCOMPARE(dialog->getProxyPort(), qMax<int>(port, 1));
+    }
     dialog->setProxyEnabled(true);
     auto& port = child<QSpinBox>(dialog, "spnbxPort");
     port.setFocus();
@@ -213,41 +162,28 @@ void OptionsTest::hiddenParts()
     auto* dialog = show<IOptionDialog>();
     auto& deactivate = child(dialog, "btnDeactivateAntiTheft");
     QVERIFY(!deactivate.isVisible());
-    for (const bool hide : {false, true}) {
+    dialog->setAutoUpdate(true);
+    for (const bool hide : {true, false}) {
         deactivate.show();
         dialog->hideDeactivateButton(hide);
         QVERIFY(!deactivate.isVisible());
+        dialog->setAutoUpdateHidden(hide);
+        QCOMPARE(child(dialog, "chkAutoUpdate").isVisible(), !hide);
+        QVERIFY(dialog->isAutoUpdate());
     }
-    dialog->setAutoUpdate(true);
-    dialog->setAutoUpdateHidden(true);
-    QVERIFY(!child(dialog, "chkAutoUpdate").isVisible());
-    QVERIFY(dialog->isAutoUpdate());
-    dialog->setAutoUpdateHidden(false);
-    QVERIFY(child(dialog, "chkAutoUpdate").isVisible());
-}
-
-void OptionsTest::groupsFitAtEveryRatio_data()
-{
-    QTest::addColumn<float>("ratio");
-    for (const float ratio : {1.0F, 1.25F, 1.5F, 2.0F, 3.0F})
-        QTest::newRow(qPrintable(QString::number(static_cast<double>(ratio)))) << ratio;
 }
 
 void OptionsTest::groupsFitAtEveryRatio()
 {
-    QFETCH(float, ratio);
-    gui().setRatio(ratio);
-    auto* dialog = show<IOptionDialog>();
-    const auto scaled = [ratio](int length) { return static_cast<int>(static_cast<float>(length) * ratio); };
-    const QWidget& authentication = child(dialog, "proxyAuthGroupBox");
-    QCOMPARE(authentication.geometry(), QRect(0, scaled(100), scaled(501), scaled(111)));
-    for (const char* name :
-         {"edtProxyLogin", "edtProxyPassword", "lblProxyLogin", "lblProxyPassword", "edtAdress", "spnbxPort"}) {
-        const QWidget& widget = child(dialog, name);
-        QVERIFY2(widget.visibleRegion().boundingRect() == widget.rect(), name);
+    for (const float ratio : {1.0F, 1.25F, 3.0F}) {
+        gui().setRatio(ratio);
+        auto* dialog = show<IOptionDialog>();
+        for (const char* name :
+             {"edtProxyLogin", "edtProxyPassword", "lblProxyLogin", "lblProxyPassword", "edtAdress", "spnbxPort"}) {
+            const QWidget& widget = child(dialog, name);
+            QVERIFY2(widget.visibleRegion().boundingRect() == widget.rect(), name);
+        }
     }
-    // The inner frame may hide the outer one nowhere: they share their left, right and lower lines.
-    QVERIFY(child(dialog, "content").geometry().contains(child(dialog, "proxyGroupBox").geometry()));
 }
 
 void OptionsTest::keyboardReachesEverything()
@@ -258,12 +194,9 @@ void OptionsTest::keyboardReachesEverything()
     dialog->setProxyLogin(QStringLiteral("anna"));
     dialog->setProxyAuthEnabled(true);
     showActive(dialog);
-    for (const char* name :
-         {"chkShowIcon", "chkAutoUpdate", "proxyGroupBox", "edtAdress", "spnbxPort", "proxyAuthGroupBox",
-          "edtProxyLogin", "edtProxyPassword", "btnSave", "btnCancel", "chkShowIcon"}) {
-        QCOMPARE(window(dialog).focusWidget()->objectName(), QLatin1String(name));
-        press(dialog, Qt::Key_Tab);
-    }
+    QCOMPARE(tabOrder(dialog),
+             QStringLiteral("chkShowIcon chkAutoUpdate proxyGroupBox edtAdress spnbxPort proxyAuthGroupBox "
+                            "edtProxyLogin edtProxyPassword btnSave btnCancel"));
 }
 
 GUI_TEST_MAIN(OptionsTest)

@@ -1,10 +1,8 @@
 #include "GuiTest.h"
-#include "IRebootDialog.h"
 
 #include <QComboBox>
 #include <QFile>
 #include <QImage>
-#include <QLabel>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
@@ -17,11 +15,9 @@ class RebootTest : public GuiTest {
     Q_OBJECT
 
 private Q_SLOTS:
-    void buttons();
-    void typingNeverReboots_data();
-    void typingNeverReboots();
+    void events_data();
+    void events();
     void shownAgainItIsSafeAgain();
-    void closing();
     void periods_data();
     void periods();
     void personChoosesPeriod();
@@ -33,50 +29,29 @@ private Q_SLOTS:
     void windowSetUp();
 };
 
-void RebootTest::buttons()
+void RebootTest::events_data()
 {
-    auto* dialog = show<IRebootDialog>();
-    click(dialog, "rebootNowButton");
-    click(dialog, "postponeButton");
-    QCOMPARE(takeEvents(), (QStringList{QStringLiteral("evRebootNow"), QStringLiteral("evPostpone")}));
-    QVERIFY(QMetaObject::invokeMethod(&window(dialog), "closed"));
-    QCOMPARE(takeEvents(), QStringList{QStringLiteral("evClosed")});
-    QVERIFY(window(dialog).isVisible());
+    textColumns({"focus", "actions", "event"});
+    textRow({"timeoutComboBox", "Return Enter postponeButton", "evPostpone"});
+    textRow({"timeoutComboBox", "Escape R Space", ""});
+    textRow({"timeoutComboBox", "closed()", "evClosed"});
+    textRow({"timeoutComboBox", "rebootNowButton", "evRebootNow"});
+    textRow({"rebootNowButton", "Return Enter", "evPostpone"});
+    textRow({"rebootNowButton", "Space", "evRebootNow"});
+    textRow({"postponeButton", "Escape", ""});
 }
 
-void RebootTest::typingNeverReboots_data()
+void RebootTest::events()
 {
-    QTest::addColumn<QByteArray>("focus");
-    QTest::addColumn<int>("key");
-    QTest::addColumn<QStringList>("expected");
-    const QStringList postponed{QStringLiteral("evPostpone")};
-    const QStringList nothing;
-    QTest::newRow("return") << QByteArray() << int(Qt::Key_Return) << postponed;
-    QTest::newRow("enter") << QByteArray() << int(Qt::Key_Enter) << postponed;
-    QTest::newRow("space") << QByteArray() << int(Qt::Key_Space) << nothing;
-    QTest::newRow("escape") << QByteArray() << int(Qt::Key_Escape) << nothing;
-    QTest::newRow("cancel") << QByteArray() << int(Qt::Key_Cancel) << nothing;
-    QTest::newRow("letter") << QByteArray() << int(Qt::Key_R) << nothing;
-    QTest::newRow("return beside the button") << QByteArray("rebootNowButton") << int(Qt::Key_Return) << postponed;
-    QTest::newRow("escape on postpone") << QByteArray("postponeButton") << int(Qt::Key_Escape) << nothing;
-    QTest::newRow("on purpose") << QByteArray("rebootNowButton") << int(Qt::Key_Space)
-                                << QStringList{QStringLiteral("evRebootNow")};
-}
-
-void RebootTest::typingNeverReboots()
-{
-    QFETCH(QByteArray, focus);
-    QFETCH(int, key);
+    QFETCH(QString, focus);
+    QFETCH(QString, actions);
+    QFETCH(QString, event);
     auto* dialog = show<IRebootDialog>();
     QCOMPARE(window(dialog).focusWidget(), &child(dialog, "timeoutComboBox"));
     QVERIFY(child<QPushButton>(dialog, "postponeButton").isDefault());
-    if (!focus.isEmpty())
-        child(dialog, focus.constData()).setFocus();
+    child(dialog, qPrintable(focus)).setFocus();
     QVERIFY(!child<QPushButton>(dialog, "rebootNowButton").isDefault());
-    QTest::sendKeyEvent(QTest::Click, window(dialog).focusWidget(), static_cast<Qt::Key>(key), QString(),
-                        Qt::NoModifier);
-    QTEST(takeEvents(), "expected");
-    QVERIFY(window(dialog).isVisible());
+    checkEvents(dialog, actions, event);
     child<QComboBox>(dialog, "timeoutComboBox").hidePopup();
 }
 
@@ -84,48 +59,39 @@ void RebootTest::shownAgainItIsSafeAgain()
 {
     auto* dialog = show<IRebootDialog>();
     click(dialog, "rebootNowButton");
-    dialog->hide();
-    takeEvents();
+    QVERIFY(window(dialog).close());
+    QVERIFY(!window(dialog).isVisible());
+    QCOMPARE(takeEvents(), QStringList({QStringLiteral("evRebootNow"), QStringLiteral("evClosed")}));
     showActive(dialog);
+    QTest::sendKeyEvent(QTest::Click, window(dialog).focusWidget(), Qt::Key_Cancel, QString(), Qt::NoModifier);
     press(dialog, Qt::Key_Space);
     child<QComboBox>(dialog, "timeoutComboBox").hidePopup();
-    press(dialog, Qt::Key_Return);
-    QCOMPARE(takeEvents(), QStringList{QStringLiteral("evPostpone")});
-}
-
-void RebootTest::closing()
-{
-    auto* dialog = show<IRebootDialog>();
-    QVERIFY(window(dialog).close());
-    QCOMPARE(takeEvents(), QStringList{QStringLiteral("evClosed")});
-    QVERIFY(!window(dialog).isVisible());
+    checkEvents(dialog, QStringLiteral("Return"), QStringLiteral("evPostpone"));
 }
 
 void RebootTest::periods_data()
 {
     QTest::addColumn<int>("period");
-    QTest::addColumn<int>("chosen");
-    for (int period = 0; period < 4; ++period)
-        QTest::newRow(qPrintable(QString::number(period))) << period << period;
-    QTest::newRow("7") << 7 << 0;
-    QTest::newRow("4") << 4 << 0;
-    QTest::newRow("-1") << -1 << 0;
+    QTest::addColumn<QString>("text");
+    QTest::newRow("first") << 0 << QStringLiteral("10 minutes");
+    QTest::newRow("second") << 1 << QStringLiteral("30 minutes");
+    QTest::newRow("third") << 2 << QStringLiteral("1 hour");
+    QTest::newRow("last") << 3 << QStringLiteral("4 hours");
+    QTest::newRow("behind the last") << 4 << QStringLiteral("10 minutes");
+    QTest::newRow("negative") << -1 << QStringLiteral("10 minutes");
 }
 
 void RebootTest::periods()
 {
     QFETCH(int, period);
-    QFETCH(int, chosen);
     auto* dialog = get<IRebootDialog>();
     auto& list = child<QComboBox>(dialog, "timeoutComboBox");
+    QCOMPARE(list.count(), 4);
     QCOMPARE(dialog->getPostponePeriod(), 0);
     dialog->setPostponePeriod(2);
     dialog->setPostponePeriod(period);
-    QCOMPARE(dialog->getPostponePeriod(), chosen);
-    const QStringList texts{QStringLiteral("10 minutes"), QStringLiteral("30 minutes"), QStringLiteral("1 hour"),
-                            QStringLiteral("4 hours")};
-    QCOMPARE(list.count(), texts.size());
-    QCOMPARE(list.currentText(), texts.at(chosen));
+    QTEST(list.currentText(), "text");
+    QCOMPARE(dialog->getPostponePeriod(), list.currentIndex());
     list.setCurrentIndex(-1);
     QCOMPARE(dialog->getPostponePeriod(), 0);
 }
@@ -136,10 +102,7 @@ void RebootTest::personChoosesPeriod()
     press(dialog, Qt::Key_Down);
     press(dialog, Qt::Key_Down);
     QCOMPARE(dialog->getPostponePeriod(), 2);
-    press(dialog, Qt::Key_Tab);
-    QCOMPARE(window(dialog).focusWidget(), &child(dialog, "rebootNowButton"));
-    press(dialog, Qt::Key_Tab);
-    QCOMPARE(window(dialog).focusWidget(), &child(dialog, "postponeButton"));
+    QCOMPARE(tabOrder(dialog), QStringLiteral("timeoutComboBox rebootNowButton postponeButton"));
     QVERIFY(takeEvents().isEmpty());
 }
 
@@ -148,14 +111,12 @@ void RebootTest::shutdown()
     auto* dialog = get<IRebootDialog>();
     const auto& button = child<QPushButton>(dialog, "rebootNowButton");
     QVERIFY(!dialog->isShutdown());
-    QCOMPARE(button.text(), QStringLiteral("Reboot now"));
-    dialog->setShutdown(true);
-    QVERIFY(dialog->isShutdown());
-    QCOMPARE(button.text(), QStringLiteral("Shutdown now"));
-    QCOMPARE(window(dialog).windowTitle(), QStringLiteral("Tavik Reboot"));
-    dialog->setShutdown(false);
-    QVERIFY(!dialog->isShutdown());
-    QCOMPARE(button.text(), QStringLiteral("Reboot now"));
+    for (const bool shutdown : {true, false}) {
+        dialog->setShutdown(shutdown);
+        QCOMPARE(dialog->isShutdown(), shutdown);
+        QCOMPARE(button.text(), shutdown ? QStringLiteral("Shutdown now") : QStringLiteral("Reboot now"));
+        QCOMPARE(window(dialog).windowTitle(), QStringLiteral("Tavik Reboot"));
+    }
 }
 
 void RebootTest::reason()
@@ -166,19 +127,16 @@ void RebootTest::reason()
     QCOMPARE(dialog->getMessage(), QStringLiteral("Updates were installed."));
     dialog->setMessage(QStringLiteral("plain & simple < 5"));
     QCOMPARE(dialog->getMessage(), QStringLiteral("plain & simple < 5"));
-    auto& text = child<QTextEdit>(dialog, "rebootReasonLabel");
-    QVERIFY(text.isReadOnly());
-    QCOMPARE(text.focusPolicy(), Qt::NoFocus);
-    QCOMPARE(text.document()->defaultFont().family(), QStringLiteral("Arial"));
+    QVERIFY(child<QTextEdit>(dialog, "rebootReasonLabel").isReadOnly());
 }
 
 void RebootTest::reasonOpensNoFiles_data()
 {
-    QTest::addColumn<QString>("html");
-    QTest::newRow("picture by path") << QStringLiteral("<img src='PATH'>");
-    QTest::newRow("picture by address") << QStringLiteral("<img src='file://PATH'>");
-    QTest::newRow("background") << QStringLiteral("<p style='background-image:url(PATH)'>text</p>");
-    QTest::newRow("inline data") << QStringLiteral("<img src='data:image/png;base64,DATA'>");
+    textColumns({"html"});
+    textRow({"<img src='PATH'>"});
+    textRow({"<img src='file://PATH'>"});
+    textRow({"<p style='background-image:url(PATH)'>text</p>"});
+    textRow({"<img src='data:image/png;base64,DATA'>"});
 }
 
 void RebootTest::reasonOpensNoFiles()
@@ -219,23 +177,17 @@ void RebootTest::longReasonScrolls()
     QCOMPARE(window(dialog).focusWidget(), static_cast<QWidget*>(&bar));
     press(dialog, Qt::Key_End);
     QTRY_COMPARE(bar.value(), bar.maximum());
-    press(dialog, Qt::Key_Return);
-    QCOMPARE(takeEvents(), QStringList{QStringLiteral("evPostpone")});
+    checkEvents(dialog, QStringLiteral("Return"), QStringLiteral("evPostpone"));
 }
 
 void RebootTest::windowSetUp()
 {
-    auto* dialog = get<IRebootDialog>();
-    const QWidget& top = window(dialog);
-    QVERIFY(top.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
-    QVERIFY(top.windowFlags().testFlag(Qt::FramelessWindowHint));
-    QVERIFY(!top.windowFlags().testFlag(Qt::WindowCloseButtonHint));
+    const QWidget& top = window(get<IRebootDialog>());
+    QCOMPARE(top.windowFlags() & (Qt::WindowStaysOnTopHint | Qt::FramelessWindowHint | Qt::WindowCloseButtonHint),
+             Qt::WindowStaysOnTopHint | Qt::FramelessWindowHint);
     QCOMPARE(top.windowModality(), Qt::ApplicationModal);
-    QCOMPARE(top.size(), QSize(482, 231));
-    const QPoint distance =
-        top.frameGeometry().center() - QGuiApplication::primaryScreen()->availableGeometry().center();
-    QVERIFY(distance.manhattanLength() <= 2);
-    QCOMPARE(child<QLabel>(dialog, "lblAppName").text(), QStringLiteral(" Tavik"));
+    const QPoint screen = QGuiApplication::primaryScreen()->availableGeometry().center();
+    QVERIFY((top.frameGeometry().center() - screen).manhattanLength() <= 2);
 }
 
 GUI_TEST_MAIN(RebootTest)

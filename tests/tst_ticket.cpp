@@ -1,5 +1,4 @@
 #include "GuiTest.h"
-#include "IServiceDeskTicketDialog.h"
 
 #include <QCheckBox>
 #include <QClipboard>
@@ -12,14 +11,11 @@
 #include <QTextEdit>
 #include <QTimer>
 
-#include <functional>
 #include <limits>
 
 namespace {
 const QString submitted = QStringLiteral("evSubmit");
 const QString cancelled = QStringLiteral("evCancel");
-const QString smiley = QStringLiteral("\U0001F600");
-const QString accentedE = QStringLiteral("e\u0301");
 } // namespace
 
 /// The ticket form: what may be submitted, what its limits keep out, and that nothing typed gets lost unasked.
@@ -50,12 +46,10 @@ private Q_SLOTS:
     void subjectLimit();
     void lateLimitKeepsDetails();
     void detailsAreNeverMarkup();
-    void keyboardReachesEverything();
 
 private:
     /// Answers the discard question, which must come.
     void answerNext(QMessageBox::StandardButton button);
-    static void paste(QWidget& field, const QString& text);
     static QMessageBox* question()
     {
         return qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
@@ -70,21 +64,14 @@ void TicketTest::answerNext(QMessageBox::StandardButton button)
     });
 }
 
-void TicketTest::paste(QWidget& field, const QString& text)
-{
-    QGuiApplication::clipboard()->setText(text);
-    QTest::keyClick(&field, Qt::Key_V, Qt::ControlModifier);
-}
-
 void TicketTest::submitNeedsSubjectAndDetails()
 {
     auto* dialog = show<IServiceDeskTicketDialog>();
-    auto& submit = child<QPushButton>(dialog, "bnSubmit");
+    const QWidget& submit = child(dialog, "bnSubmit");
     bool valid = true;
     const auto isValid = [&] {
         return QMetaObject::invokeMethod(&window(dialog), "validate", Q_RETURN_ARG(bool, valid)) && valid;
     };
-    QVERIFY(!submit.isEnabled());
     QTest::keyClicks(&child(dialog, "edSubject"), QStringLiteral(" "));
     QVERIFY(!submit.isEnabled() && !isValid());
     QTest::keyClicks(&child(dialog, "txIssueDetails"), QStringLiteral("d"));
@@ -92,40 +79,39 @@ void TicketTest::submitNeedsSubjectAndDetails()
     QTest::keyClick(&child(dialog, "edSubject"), Qt::Key_Backspace);
     QVERIFY(!submit.isEnabled() && !isValid());
     QTest::keyClicks(&child(dialog, "edSubject"), QStringLiteral("s"));
-    click(dialog, "bnSubmit");
-    QCOMPARE(takeEvents(), QStringList{submitted});
-    QVERIFY(window(dialog).isVisible());
+    QCOMPARE(tabOrder(dialog),
+             QStringLiteral("edSubject cbDepartment cbPriorityLevel txIssueDetails ckIncludeDeviceData bnSubmit "
+                            "bnCancel"));
+    checkEvents(dialog, QStringLiteral("bnSubmit"), submitted);
+    QVERIFY(window(dialog).windowFlags().testFlag(Qt::WindowStaysOnTopHint));
     QCOMPARE(dialog->getSubject() + dialog->getIssueDetails(), QStringLiteral("sd"));
 }
 
 void TicketTest::submitKeys_data()
 {
-    QTest::addColumn<QByteArray>("field");
-    QTest::addColumn<QString>("details");
-    QTest::addColumn<bool>("accepted");
-    QTest::newRow("complete, from the subject") << QByteArray("edSubject") << QStringLiteral("details") << true;
-    QTest::newRow("complete, from a list") << QByteArray("cbDepartment") << QStringLiteral("details") << true;
-    QTest::newRow("complete, from the check box") << QByteArray("ckIncludeDeviceData") << QStringLiteral("d") << true;
-    QTest::newRow("incomplete") << QByteArray("edSubject") << QString() << false;
-    QTest::newRow("a new line in the details") << QByteArray("txIssueDetails") << QStringLiteral("details") << false;
+    textColumns({"field", "details", "event"});
+    for (const char* field : {"edSubject", "cbDepartment", "ckIncludeDeviceData"})
+        textRow({field, "details", "evSubmit"});
+    textRow({"edSubject", "", ""});
+    textRow({"txIssueDetails", "details", ""});
 }
 
 void TicketTest::submitKeys()
 {
-    QFETCH(QByteArray, field);
+    QFETCH(QString, field);
     QFETCH(QString, details);
-    QFETCH(bool, accepted);
+    QFETCH(QString, event);
     auto* dialog = show<IServiceDeskTicketDialog>();
     dialog->setSubject(QStringLiteral("subject"));
     dialog->setIssueDetails(details);
-    child(dialog, field.constData()).setFocus();
+    child(dialog, qPrintable(field)).setFocus();
     press(dialog, Qt::Key_Return);
-    QCOMPARE(takeEvents(), accepted ? QStringList{submitted} : QStringList());
-    QCOMPARE(window(dialog).isVisible(), !accepted);
+    QCOMPARE(takeEvents().join(QString()), event);
+    QCOMPARE(window(dialog).isVisible(), event.isEmpty());
     // A submission that fails later finds everything where it was.
     dialog->show();
     QCOMPARE(dialog->getSubject(), QStringLiteral("subject"));
-    QVERIFY(dialog->getIssueDetails().trimmed() == details);
+    QCOMPARE(dialog->getIssueDetails().trimmed(), details);
 }
 
 void TicketTest::hostMayAnswerByAccepting()
@@ -146,61 +132,47 @@ void TicketTest::hostMayAnswerByAccepting()
 
 void TicketTest::untouchedFormCloses_data()
 {
-    QTest::addColumn<std::function<void(IBaseDialog*)>>("close");
-    using Close = std::function<void(IBaseDialog*)>;
-    QTest::newRow("cancel") << Close([](IBaseDialog* dialog) { click(dialog, "bnCancel"); });
-    QTest::newRow("close button") << Close([](IBaseDialog* dialog) { click(dialog, "btnClose"); });
-    QTest::newRow("escape") << Close([](IBaseDialog* dialog) { press(dialog, Qt::Key_Escape); });
-    QTest::newRow("system") << Close([](IBaseDialog* dialog) { QVERIFY(!window(dialog).close()); });
+    textColumns({"action"});
+    for (const char* action : {"bnCancel", "btnClose", "Escape", "close"})
+        textRow({action});
 }
 
 void TicketTest::untouchedFormCloses()
 {
-    using Close = std::function<void(IBaseDialog*)>;
-    QFETCH(Close, close);
+    QFETCH(QString, action);
     auto* dialog = show<IServiceDeskTicketDialog>();
-    close(dialog);
-    QCOMPARE(takeEvents(), QStringList{cancelled});
-    QVERIFY(window(dialog).isVisible());
-
+    checkEvents(dialog, action, cancelled);
     QTest::keyClicks(&child(dialog, "edSubject"), QStringLiteral("typed"));
     answerNext(QMessageBox::Cancel);
-    close(dialog);
-    QVERIFY(takeEvents().isEmpty());
+    checkEvents(dialog, action, QString());
     QCOMPARE(dialog->getSubject(), QStringLiteral("typed"));
 }
 
 void TicketTest::editsAreNotLostUnasked_data()
 {
-    QTest::addColumn<QByteArray>("field");
-    QTest::addColumn<int>("key");
-    QTest::newRow("subject") << QByteArray("edSubject") << int(Qt::Key_A);
-    QTest::newRow("department") << QByteArray("cbDepartment") << int(Qt::Key_Down);
-    QTest::newRow("priority") << QByteArray("cbPriorityLevel") << int(Qt::Key_Down);
-    QTest::newRow("details") << QByteArray("txIssueDetails") << int(Qt::Key_A);
-    QTest::newRow("device data") << QByteArray("ckIncludeDeviceData") << int(Qt::Key_Space);
+    textColumns({"field", "key"});
+    textRow({"edSubject", "A"});
+    textRow({"cbDepartment", "Down"});
+    textRow({"cbPriorityLevel", "Down"});
+    textRow({"txIssueDetails", "A"});
+    textRow({"ckIncludeDeviceData", "Space"});
 }
 
 void TicketTest::editsAreNotLostUnasked()
 {
-    QFETCH(QByteArray, field);
-    QFETCH(int, key);
+    QFETCH(QString, field);
+    QFETCH(QString, key);
     auto* dialog = get<IServiceDeskTicketDialog>();
     dialog->setDepartments({QStringLiteral("IT"), QStringLiteral("HR")});
     dialog->setPriorities({QStringLiteral("Low"), QStringLiteral("High")});
     showActive(dialog);
-    child(dialog, field.constData()).setFocus();
-    press(dialog, static_cast<Qt::Key>(key));
-
+    child(dialog, qPrintable(field)).setFocus();
+    act(dialog, key);
     answerNext(QMessageBox::Cancel);
-    press(dialog, Qt::Key_Escape);
-    QVERIFY(takeEvents().isEmpty());
+    checkEvents(dialog, QStringLiteral("Escape"), QString());
     answerNext(QMessageBox::Discard);
-    press(dialog, Qt::Key_Escape);
-    QCOMPARE(takeEvents(), QStringList{cancelled});
     // Discarded is discarded: nothing is left to ask about.
-    press(dialog, Qt::Key_Escape);
-    QCOMPARE(takeEvents(), QStringList{cancelled});
+    checkEvents(dialog, QStringLiteral("Escape Escape"), cancelled);
 }
 
 void TicketTest::discardQuestion()
@@ -254,42 +226,39 @@ void TicketTest::hostValuesAreNoEdits()
     dialog->setIncludeDeviceData(true);
     dialog->setSubjectMaxLength(3);
     dialog->setIssueDetailsMaxLength(100);
-    QVERIFY(child<QPushButton>(dialog, "bnSubmit").isEnabled());
-    press(dialog, Qt::Key_Escape);
-    QCOMPARE(takeEvents(), QStringList{cancelled});
+    QVERIFY(child(dialog, "bnSubmit").isEnabled());
+    checkEvents(dialog, QStringLiteral("Escape"), cancelled);
 
     // What the person edited before stays an edit.
     QTest::keyClick(&child(dialog, "ckIncludeDeviceData"), Qt::Key_Space);
     dialog->setSubject(QStringLiteral("other"));
     answerNext(QMessageBox::Discard);
-    press(dialog, Qt::Key_Escape);
-    QCOMPARE(takeEvents(), QStringList{cancelled});
+    checkEvents(dialog, QStringLiteral("Escape"), cancelled);
 }
 
 void TicketTest::choices()
 {
     auto* dialog = get<IServiceDeskTicketDialog>();
-    QCOMPARE(dialog->getDepartmentIndex(), -1);
-    QCOMPARE(dialog->getPriorityIndex(), -1);
-    QVERIFY(dialog->getDepartment().isEmpty() && dialog->getPriority().isEmpty());
-
+    QVERIFY(dialog->getDepartmentIndex() == -1 && dialog->getDepartment().isEmpty());
+    QVERIFY(dialog->getPriorityIndex() == -1 && dialog->getPriority().isEmpty());
     QStringList many;
     for (int i = 0; i < 20000; ++i)
         many << QStringLiteral("Department & %1 <b>").arg(i);
     dialog->setDepartments(many);
     QCOMPARE(dialog->getDepartment(), many.first());
-    dialog->setDepartment(many.last());
-    dialog->setDepartment(QStringLiteral("no such department"));
-    QCOMPARE(dialog->getDepartmentIndex(), many.size() - 1);
-    QCOMPARE(dialog->getDepartment(), many.last());
+    for (const QString& department : {many.last(), QStringLiteral("no such department"), many.first().toLower()}) {
+        dialog->setDepartment(department);
+        QCOMPARE(dialog->getDepartmentIndex(), many.size() - 1);
+        QCOMPARE(dialog->getDepartment(), many.last());
+    }
     dialog->setDepartments({});
     QCOMPARE(dialog->getDepartmentIndex(), -1);
-
     dialog->setPriorities({QStringLiteral("Low"), QString(), QStringLiteral("High")});
-    dialog->setPriority(QStringLiteral("High"));
-    QCOMPARE(dialog->getPriorityIndex(), 2);
-    dialog->setPriority(QStringLiteral("high"));
-    QCOMPARE(dialog->getPriority(), QStringLiteral("High"));
+    for (const char* priority : {"High", "high"}) {
+        dialog->setPriority(QLatin1String(priority));
+        QCOMPARE(dialog->getPriorityIndex(), 2);
+        QCOMPARE(dialog->getPriority(), QStringLiteral("High"));
+    }
 
     QVERIFY(!dialog->isIncludeDeviceData());
     showActive(dialog);
@@ -305,9 +274,7 @@ void TicketTest::limitValues_data()
     QTest::addColumn<int>("subjectLimit");
     QTest::addColumn<QString>("placeholder");
     QTest::newRow("some") << 120 << 120 << QStringLiteral("Required (max. 120 chars)");
-    QTest::newRow("one") << 1 << 1 << QStringLiteral("Required (max. 1 chars)");
     QTest::newRow("none") << 0 << 32767 << QStringLiteral("Required");
-    QTest::newRow("negative") << -5 << 32767 << QStringLiteral("Required");
     QTest::newRow("smallest") << std::numeric_limits<int>::min() << 32767 << QStringLiteral("Required");
 }
 
@@ -317,32 +284,25 @@ void TicketTest::limitValues()
     auto* dialog = get<IServiceDeskTicketDialog>();
     QCOMPARE(dialog->getSubjectMaxLength(), 32767);
     QCOMPARE(dialog->getIssueDetailsMaxLength(), 0);
-    const auto& subject = child<QLineEdit>(dialog, "edSubject");
-    const auto& details = child<QTextEdit>(dialog, "txIssueDetails");
-    QCOMPARE(subject.placeholderText() + details.placeholderText(), QStringLiteral("RequiredRequired"));
-
     dialog->setSubjectMaxLength(limit);
     dialog->setIssueDetailsMaxLength(limit);
     QTEST(dialog->getSubjectMaxLength(), "subjectLimit");
     QCOMPARE(dialog->getIssueDetailsMaxLength(), limit);
-    QTEST(subject.placeholderText(), "placeholder");
-    QTEST(details.placeholderText(), "placeholder");
+    QTEST(child<QLineEdit>(dialog, "edSubject").placeholderText(), "placeholder");
+    QTEST(child<QTextEdit>(dialog, "txIssueDetails").placeholderText(), "placeholder");
 }
 
 void TicketTest::detailsLimit_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("kept");
-    const QString four = QStringLiteral("abcd");
-    QTest::newRow("shorter") << four << four;
-    QTest::newRow("exact") << QStringLiteral("abcde") << QStringLiteral("abcde");
-    QTest::newRow("longer") << QStringLiteral("abcdefgh") << QStringLiteral("abcde");
-    QTest::newRow("lines") << QStringLiteral("a\nb\n\nc\nd") << QStringLiteral("a\nb\n\n");
-    QTest::newRow("pair fits") << QStringLiteral("abc") + smiley + four << QStringLiteral("abc") + smiley;
-    QTest::newRow("pair at the limit") << four + smiley << four;
-    QTest::newRow("mark fits") << QStringLiteral("abc") + accentedE + four << QStringLiteral("abc") + accentedE;
-    QTest::newRow("mark at the limit") << four + accentedE << four;
-    QTest::newRow("megabyte") << four + QString(1 << 20, QLatin1Char('x')) << QStringLiteral("abcdx");
+    textColumns({"text", "kept"});
+    textRow({"abcd", "abcd"});
+    textRow({"abcde", "abcde"});
+    textRow({"a\nb\n\nc\nd", "a\nb\n\n"});
+    textRow({"abc\U0001F600abcd", "abc\U0001F600"});
+    textRow({"abcd\U0001F600", "abcd"});
+    textRow({"abce\u0301abcd", "abce\u0301"});
+    textRow({"abcde\u0301", "abcd"});
+    textRow({QByteArray(1 << 20, 'x').constData(), "xxxxx"});
 }
 
 void TicketTest::detailsLimit()
@@ -363,11 +323,10 @@ void TicketTest::detailsLimit()
 
 void TicketTest::typingAtTheLimit_data()
 {
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<QString>("typed");
-    QTest::newRow("letter") << QStringLiteral("abc") << QStringLiteral("d");
-    QTest::newRow("combining mark") << QStringLiteral("abe") << QStringLiteral("\u0301");
-    QTest::newRow("joined to a smiley") << QStringLiteral("a") + smiley << QStringLiteral("\u200d");
+    textColumns({"before", "typed"});
+    textRow({"abc", "d"});
+    textRow({"abe", "\u0301"});
+    textRow({"a\U0001F600", "\u200d"});
 }
 
 void TicketTest::typingAtTheLimit()
@@ -402,35 +361,28 @@ void TicketTest::undoAfterCut()
 
 void TicketTest::subjectLimit_data()
 {
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<int>("cursor");
-    QTest::addColumn<QString>("pasted");
-    QTest::addColumn<QString>("after");
-    const QString abc = QStringLiteral("abc");
-    QTest::newRow("longer") << QString() << 0 << QStringLiteral("abcdef") << QStringLiteral("abcd");
-    QTest::newRow("pair at the limit") << QString() << 0 << abc + smiley << abc;
-    QTest::newRow("pair into the middle") << abc << 1 << smiley << abc;
-    QTest::newRow("pair fits") << QString() << 0 << QStringLiteral("ab") + smiley + abc
-                               << QStringLiteral("ab") + smiley;
+    textColumns({"before", "pasted", "after"});
+    textRow({"", "abcdef", "abcd"});
+    textRow({"", "abc\U0001F600", "abc"});
+    textRow({"abc", "\U0001F600", "abc"});
+    textRow({"", "ab\U0001F600abc", "ab\U0001F600"});
 }
 
 void TicketTest::subjectLimit()
 {
     QFETCH(QString, before);
-    QFETCH(int, cursor);
     QFETCH(QString, pasted);
-    QFETCH(QString, after);
     auto* dialog = show<IServiceDeskTicketDialog>();
     dialog->setSubjectMaxLength(4);
     dialog->setSubject(before);
     auto& subject = child<QLineEdit>(dialog, "edSubject");
-    subject.setCursorPosition(cursor);
+    subject.setCursorPosition(1);
     paste(subject, pasted);
-    QCOMPARE(dialog->getSubject(), after);
+    QTEST(dialog->getSubject(), "after");
 
-    // The same text, there before its limit.
+    // A limit that comes later cuts as well.
     dialog->setSubjectMaxLength(0);
-    dialog->setSubject(QStringLiteral("abc") + smiley);
+    dialog->setSubject(QStringLiteral("abc\U0001F600"));
     dialog->setSubjectMaxLength(4);
     QCOMPARE(dialog->getSubject(), QStringLiteral("abc"));
 }
@@ -441,15 +393,15 @@ void TicketTest::lateLimitKeepsDetails()
     dialog->setSubject(QStringLiteral("subject"));
     auto& details = child<QTextEdit>(dialog, "txIssueDetails");
     paste(details, QStringLiteral("abcdef"));
-    QVERIFY(child<QPushButton>(dialog, "bnSubmit").isEnabled());
+    QVERIFY(child(dialog, "bnSubmit").isEnabled());
     dialog->setIssueDetailsMaxLength(3);
     QCOMPARE(dialog->getIssueDetails(), QStringLiteral("abcdef"));
-    QVERIFY(!child<QPushButton>(dialog, "bnSubmit").isEnabled());
+    QVERIFY(!child(dialog, "bnSubmit").isEnabled());
     dialog->done(1);
     QVERIFY(takeEvents().isEmpty());
     QTest::keyClick(&details, Qt::Key_Backspace);
     QCOMPARE(dialog->getIssueDetails(), QStringLiteral("abc"));
-    QVERIFY(child<QPushButton>(dialog, "bnSubmit").isEnabled());
+    QVERIFY(child(dialog, "bnSubmit").isEnabled());
 }
 
 void TicketTest::detailsAreNeverMarkup()
@@ -469,21 +421,5 @@ void TicketTest::detailsAreNeverMarkup()
     QCOMPARE(details.textCursor().blockFormat().headingLevel(), 0);
 }
 
-void TicketTest::keyboardReachesEverything()
-{
-    auto* dialog = get<IServiceDeskTicketDialog>();
-    dialog->setSubject(QStringLiteral("subject"));
-    dialog->setIssueDetails(QStringLiteral("details"));
-    showActive(dialog);
-    for (const char* name : {"edSubject", "cbDepartment", "cbPriorityLevel", "txIssueDetails", "ckIncludeDeviceData",
-                             "bnSubmit", "bnCancel", "edSubject"}) {
-        QCOMPARE(window(dialog).focusWidget()->objectName(), QLatin1String(name));
-        press(dialog, Qt::Key_Tab);
-    }
-    QCOMPARE(window(dialog).windowTitle(), QStringLiteral(" Tavik Submit ticket"));
-    QVERIFY(window(dialog).windowFlags().testFlag(Qt::WindowStaysOnTopHint));
-}
-
-Q_DECLARE_METATYPE(std::function<void(IBaseDialog*)>)
 GUI_TEST_MAIN(TicketTest)
 #include "tst_ticket.moc"

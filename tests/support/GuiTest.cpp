@@ -1,5 +1,7 @@
 #include "GuiTest.h"
 
+#include <QClipboard>
+#include <QMetaEnum>
 #include <QPluginLoader>
 
 namespace {
@@ -88,6 +90,63 @@ void GuiTest::press(IBaseDialog* dialog, Qt::Key key, Qt::KeyboardModifiers modi
 {
     QWidget& top = window(dialog);
     QTest::keyClick(top.focusWidget() ? top.focusWidget() : &top, key, modifiers);
+}
+
+void GuiTest::act(IBaseDialog* dialog, const QString& action)
+{
+    bool isKey = false;
+    const int key = QMetaEnum::fromType<Qt::Key>().keyToValue(qPrintable(QLatin1String("Key_") + action), &isKey);
+    if (isKey)
+        press(dialog, static_cast<Qt::Key>(key));
+    else if (action == QLatin1String("close"))
+        window(dialog).close();
+    else if (action.endsWith(QLatin1String("()")))
+        QVERIFY(QMetaObject::invokeMethod(&window(dialog), qPrintable(action.chopped(2))));
+    else
+        click(dialog, qPrintable(action));
+}
+
+void GuiTest::checkEvents(IBaseDialog* dialog, const QString& actions, const QString& event)
+{
+    const QString result = QStringLiteral("%1 raises \"%2\"");
+    for (const QString& action : actions.split(QLatin1Char(' '))) {
+        act(dialog, action);
+        QCOMPARE(result.arg(action, takeEvents().join(QLatin1Char(' '))), result.arg(action, event));
+        QVERIFY2(window(dialog).isVisible(), qPrintable(action));
+    }
+}
+
+void GuiTest::paste(QWidget& field, const QString& text)
+{
+    QGuiApplication::clipboard()->setText(text);
+    QTest::keyClick(&field, Qt::Key_V, Qt::ControlModifier);
+}
+
+QString GuiTest::tabOrder(IBaseDialog* dialog)
+{
+    const QWidget* const start = window(dialog).focusWidget();
+    QStringList names;
+    do {
+        names << window(dialog).focusWidget()->objectName();
+        press(dialog, Qt::Key_Tab);
+    } while (window(dialog).focusWidget() != start && names.size() < 20);
+    return names.join(QLatin1Char(' '));
+}
+
+void GuiTest::textColumns(std::initializer_list<const char*> names)
+{
+    for (const char* name : names)
+        QTest::addColumn<QString>(name);
+}
+
+void GuiTest::textRow(std::initializer_list<const char*> texts)
+{
+    QStringList values;
+    for (const char* text : texts)
+        values << QString::fromUtf8(text);
+    QTestData& row = QTest::newRow(qPrintable(values.join(QLatin1String(", ")).simplified()));
+    for (const QString& value : qAsConst(values))
+        row << value;
 }
 
 void GuiTest::expectWarning(const QString& pattern)

@@ -58,6 +58,18 @@ protected:
     /// Sends a key to where a person's would go: the focused widget of the dialog.
     static void press(IBaseDialog* dialog, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
+    /// Does what a name says: a key ("Return"), a slot ("reject()"), the system's "close", or a click ("btnOk").
+    static void act(IBaseDialog* dialog, const QString& action);
+    /// Fails unless each of the actions, separated by spaces, raises that event (none if empty) and leaves the dialog.
+    void checkEvents(IBaseDialog* dialog, const QString& actions, const QString& event);
+    static void paste(QWidget& field, const QString& text);
+    /// The names of the widgets that Tab goes through, from the focused one until it comes back to it.
+    static QString tabOrder(IBaseDialog* dialog);
+
+    /// Test data that is all text; rows are named by their texts.
+    static void textColumns(std::initializer_list<const char*> names);
+    static void textRow(std::initializer_list<const char*> texts);
+
     /// A warning that the next statements may write; every expected one must come.
     void expectWarning(const QString& pattern);
     /// Everything written through Qt's message functions during this test function.
