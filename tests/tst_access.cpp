@@ -141,7 +141,7 @@ bool isInput(const QWidget* widget)
 }
 
 /// The widgets in the order in which Tab leads to them.
-QVector<QWidget*> tabOrder(QWidget& top)
+QVector<QWidget*> tabChainOf(QWidget& top)
 {
     QVector<QWidget*> order;
     for (;;) {
@@ -399,7 +399,7 @@ void AccessTest::tabChain()
         if (takesTab(widget))
             expected.append(widget);
     }
-    const QVector<QWidget*> order = tabOrder(top);
+    const QVector<QWidget*> order = tabChainOf(top);
     for (QWidget* widget : qAsConst(expected))
         QVERIFY2(order.contains(widget), qPrintable(widget->objectName()));
     for (QWidget* widget : order)

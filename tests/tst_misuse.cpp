@@ -293,7 +293,7 @@ void MisuseTest::memoryStays()
             settle();
         }
     };
-    // The messages of this test function are recorded, and some dialogs say when they go.
+    // The test itself keeps every message.
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
     // Leak detection sees what is lost; this sees what is kept without need.
     rounds(1000);

@@ -4,6 +4,8 @@
 #include <QDialog>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QMessageBox>
+#include <QTimer>
 
 namespace {
 /// Commands that wait or write files; all others are played.
@@ -27,14 +29,14 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
             player.addLine(line);
     }
     player.endInput();
-    // The script goes on inside exec() and questions; they end with it.
-    QObject::connect(&player, &ScriptPlayer::finished, &player, [] {
-        while (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+    // Nobody answers the dialogs' own questions; what exec() has started ends with the script.
+    QTimer patience;
+    QObject::connect(&patience, &QTimer::timeout, &player, [&finished] {
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (dialog && (finished || qobject_cast<QMessageBox*>(dialog)))
             dialog->QDialog::done(0);
-            if (dialog->isVisible())
-                break;
-        }
     });
+    patience.start(0);
     while (!finished)
         QCoreApplication::processEvents();
     gui.setRatio(1.0F);
