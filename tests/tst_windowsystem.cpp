@@ -1,0 +1,210 @@
+#include "GuiTest.h"
+
+#include <QEventLoop>
+#include <QLineEdit>
+#include <QProcess>
+#include <QPushButton>
+#include <QScreen>
+#include <QVBoxLayout>
+
+/// The dialogs among other windows, under a real window manager and with real keys and clicks.
+class WindowSystemTest : public GuiTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void headlineStory();
+    void staysOnTop();
+    void modalBlocksTheHost();
+    void sessionWindowLeavesTheFocus();
+    void dragging();
+    void promptStartsOnCancel();
+
+private:
+    QStringList awaitEvents();
+    /// Runs a program while windows go on working, and returns what it prints.
+    static QByteArray run(const QString& program, const QStringList& arguments);
+    static void pressKeys(const QString& keys);
+    static void moveMouse(const QPoint& position);
+    static void clickOn(const QWidget& widget);
+    /// All windows from the lowest to the topmost, as the window manager has them.
+    static QVector<WId> stacking();
+};
+
+namespace {
+/// A window of the host program that fills the screen's middle.
+class HostWindow : public QWidget {
+public:
+    HostWindow()
+    {
+        auto* column = new QVBoxLayout(this);
+        column->addWidget(&edit);
+        column->addWidget(&button);
+        QObject::connect(&button, &QPushButton::clicked, this, [this] { ++clicks; });
+        const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
+        setGeometry(area.adjusted(40, 40, -40, -40));
+        show();
+        activateWindow();
+        if (!QTest::qWaitForWindowActive(this))
+            qFatal("the host's window did not become active");
+        edit.setFocus();
+    }
+
+    QLineEdit edit;
+    QPushButton button;
+    int clicks = 0;
+};
+} // namespace
+
+QStringList WindowSystemTest::awaitEvents()
+{
+    return QTest::qWaitFor([this] { return !events.isEmpty(); }) ? takeEvents() : QStringList();
+}
+
+QByteArray WindowSystemTest::run(const QString& program, const QStringList& arguments)
+{
+    QProcess process;
+    QEventLoop loop;
+    QObject::connect(&process, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), &loop, &QEventLoop::quit);
+    process.start(program, arguments);
+    if (!process.waitForStarted())
+        qFatal("%s does not start", qPrintable(program));
+    if (process.state() != QProcess::NotRunning)
+        loop.exec();
+    return process.readAllStandardOutput();
+}
+
+void WindowSystemTest::pressKeys(const QString& keys)
+{
+    run(QStringLiteral("xdotool"), {QStringLiteral("key"), keys});
+}
+
+void WindowSystemTest::moveMouse(const QPoint& position)
+{
+    run(QStringLiteral("xdotool"),
+        {QStringLiteral("mousemove"), QStringLiteral("--sync"), QString::number(position.x()),
+         QString::number(position.y())});
+}
+
+void WindowSystemTest::clickOn(const QWidget& widget)
+{
+    moveMouse(widget.mapToGlobal(widget.rect().center()));
+    run(QStringLiteral("xdotool"), {QStringLiteral("click"), QStringLiteral("1")});
+}
+
+QVector<WId> WindowSystemTest::stacking()
+{
+    const QByteArray property =
+        run(QStringLiteral("xprop"), {QStringLiteral("-root"), QStringLiteral("_NET_CLIENT_LIST_STACKING")});
+    QVector<WId> windows;
+    const QList<QByteArray> ids = property.mid(property.indexOf('#') + 1).split(',');
+    for (const QByteArray& id : ids)
+        windows << id.trimmed().toULongLong(nullptr, 16);
+    return windows;
+}
+
+void WindowSystemTest::headlineStory()
+{
+    auto* error = show<IErrorMessageDialog>();
+    error->setMessage(QStringLiteral("The update could not be downloaded. Press Enter to try again."));
+    pressKeys(QStringLiteral("Return"));
+    QCOMPARE(awaitEvents(), QStringList{QStringLiteral("evTryAgain")});
+    QVERIFY(window(error).isVisible());
+    error->hide();
+
+    auto* confirmation = show<IAcceptMessageDialog>();
+    clickOn(child(confirmation, "btnMessageInnerButton"));
+    QCOMPARE(awaitEvents(), QStringList{QStringLiteral("evOk")});
+    pressKeys(QStringLiteral("Escape"));
+    QVERIFY(window(confirmation).isVisible());
+    confirmation->done(0);
+    QTRY_VERIFY(!stacking().contains(window(confirmation).winId()));
+}
+
+void WindowSystemTest::staysOnTop()
+{
+    HostWindow host;
+    auto* dialog = show<IErrorMessageDialog>();
+    auto* session = get<IRemoteConnectionDialog>();
+    session->addRemoteControlSession(QStringLiteral("id"), QStringLiteral("user"), 1000, true);
+    QTRY_VERIFY(stacking().contains(window(session).winId()));
+    host.raise();
+    host.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&host));
+    const auto isBelow = [](const QWidget& lower, const QWidget& upper) {
+        const QVector<WId> windows = stacking();
+        return windows.indexOf(lower.winId()) >= 0 && windows.indexOf(lower.winId()) < windows.indexOf(upper.winId());
+    };
+    QTRY_VERIFY(isBelow(host, window(dialog)));
+    QVERIFY(isBelow(host, window(session)));
+}
+
+void WindowSystemTest::modalBlocksTheHost()
+{
+    HostWindow host;
+    clickOn(host.button);
+    QTRY_COMPARE(host.clicks, 1);
+    auto* dialog = get<IAcceptMessageDialog>();
+    dialog->setModal(true);
+    showActive(dialog);
+    // The button is beside the dialog, not under it.
+    QVERIFY(host.button.width() > window(dialog).width());
+    moveMouse(host.button.mapToGlobal(QPoint(10, host.button.height() / 2)));
+    run(QStringLiteral("xdotool"), {QStringLiteral("click"), QStringLiteral("1")});
+    pressKeys(QStringLiteral("Return"));
+    QCOMPARE(awaitEvents(), QStringList{QStringLiteral("evOk")});
+    QCOMPARE(host.clicks, 1);
+    dialog->hide();
+    clickOn(host.button);
+    QTRY_COMPARE(host.clicks, 2);
+}
+
+void WindowSystemTest::sessionWindowLeavesTheFocus()
+{
+    HostWindow host;
+    pressKeys(QStringLiteral("a"));
+    QTRY_COMPARE(host.edit.text(), QStringLiteral("a"));
+    auto* session = get<IRemoteConnectionDialog>();
+    session->addRemoteControlSession(QStringLiteral("id"), QStringLiteral("user"), 1000, true);
+    session->startRemoteToolsSession(QStringLiteral("tools"), 1, QStringLiteral("user"), 1000, true);
+    QTRY_VERIFY(stacking().contains(window(session).winId()));
+    pressKeys(QStringLiteral("b"));
+    pressKeys(QStringLiteral("space"));
+    QTRY_COMPARE(host.edit.text(), QStringLiteral("ab "));
+    QVERIFY(!window(session).isActiveWindow());
+    QCOMPARE(takeEvents(), QStringList());
+}
+
+void WindowSystemTest::dragging()
+{
+    auto* dialog = show<IErrorMessageDialog>();
+    QWidget& top = window(dialog);
+    const QPoint start = top.pos();
+    const QPoint grip = child(dialog, "content").mapToGlobal(QPoint(40, 40));
+    moveMouse(grip);
+    run(QStringLiteral("xdotool"), {QStringLiteral("mousedown"), QStringLiteral("1")});
+    for (int i = 1; i <= 5; ++i)
+        moveMouse(grip + QPoint(20, -10) * i);
+    QTRY_COMPARE(top.pos(), start + QPoint(100, -50));
+    run(QStringLiteral("xdotool"), {QStringLiteral("mouseup"), QStringLiteral("1")});
+    moveMouse(grip);
+    settle();
+    QCOMPARE(top.pos(), start + QPoint(100, -50));
+}
+
+void WindowSystemTest::promptStartsOnCancel()
+{
+    HostWindow host;
+    auto* prompt = get<IApproveRemoteConnectionDialog>(QStringLiteral("id"));
+    prompt->setCountdown(1000);
+    showActive(prompt);
+    QTRY_VERIFY(child(prompt, "cancelButton").hasFocus());
+    pressKeys(QStringLiteral("y"));
+    pressKeys(QStringLiteral("Escape"));
+    pressKeys(QStringLiteral("space"));
+    QCOMPARE(awaitEvents(), QStringList{QStringLiteral("evCancel")});
+    clickOn(child(prompt, "allowButton"));
+    QCOMPARE(awaitEvents(), QStringList{QStringLiteral("evAllow")});
+}
+
+GUI_TEST_MAIN(WindowSystemTest)
+#include "tst_windowsystem.moc"
