@@ -16,11 +16,6 @@
 #endif
 
 namespace {
-#if defined(__SANITIZE_ADDRESS__)
-constexpr bool hasSanitizer = true;
-#else
-constexpr bool hasSanitizer = false;
-#endif
 constexpr int totalSteps = 20000;
 
 /// The same numbers on every machine.

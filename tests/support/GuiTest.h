@@ -9,6 +9,13 @@
 #include <QTest>
 #include <QWidget>
 
+/// Whether this build watches memory, which makes it several times slower.
+#if defined(__SANITIZE_ADDRESS__)
+inline constexpr bool hasSanitizer = true;
+#else
+inline constexpr bool hasSanitizer = false;
+#endif
+
 /// The base of all tests that drive the built plugin: loads it as a host does, records the events of every dialog got
 /// through it, takes all dialogs down after each test function, and fails the function during which an unexpected
 /// warning was written.
