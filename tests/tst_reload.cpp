@@ -72,7 +72,7 @@ void ReloadTest::loadsAndUnloads_data()
 void ReloadTest::loadsAndUnloads()
 {
     QFETCH(bool, withDialogs);
-    constexpr int rounds = 1000;
+    constexpr int rounds = hasSanitizer ? 200 : 1000;
     size_t early = 0;
     for (int round = 0; round < rounds; ++round) {
         QVERIFY(!isThere());

@@ -203,8 +203,12 @@ void ServiceDeskTicketDialog::slSubmit()
     // A host may answer by accepting the dialog, which leads here again.
     if (submitting)
         return;
-    const QScopedValueRollback<bool> guard(submitting, true);
+    submitting = true;
+    // The host may show another dialog meanwhile and delete this one.
+    const QPointer<ServiceDeskTicketDialog> self(this);
     Q_EMIT dialogEvent(this, evSubmit);
+    if (self)
+        submitting = false;
 }
 
 void ServiceDeskTicketDialog::slClose()

@@ -9,6 +9,13 @@
 #include <QTest>
 #include <QWidget>
 
+/// Whether the program is built with the Address sanitizer, which makes it slower and memory figures meaningless.
+#if defined(__SANITIZE_ADDRESS__)
+constexpr bool hasSanitizer = true;
+#else
+constexpr bool hasSanitizer = false;
+#endif
+
 /// The base of all tests that drive the built plugin: loads it as a host does, records the events of every dialog got
 /// through it, takes all dialogs down after each test function, and fails the function during which an unexpected
 /// warning was written.
