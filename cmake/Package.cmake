@@ -14,8 +14,13 @@ install(DIRECTORY "${PROJECT_BINARY_DIR}/include/" DESTINATION "${CMAKE_INSTALL_
 if(TARGET guihost)
     install(TARGETS guihost RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
 endif()
-install(FILES CHANGELOG.md docs/host-guide.md docs/host-scripts.md resources/eula.html DESTINATION "${doc_dir}")
-install(DIRECTORY docs/pictures DESTINATION "${doc_dir}" OPTIONAL)
+# The guide shows the pictures that the tests compare with; installed, they lie beside it.
+file(READ docs/host-guide.md guide)
+string(REPLACE "../tests/pictures/" "pictures/" guide "${guide}")
+file(WRITE "${PROJECT_BINARY_DIR}/host-guide.md" "${guide}")
+install(FILES CHANGELOG.md "${PROJECT_BINARY_DIR}/host-guide.md" docs/host-scripts.md resources/eula.html
+    DESTINATION "${doc_dir}")
+install(DIRECTORY tests/pictures DESTINATION "${doc_dir}")
 
 install(EXPORT ${package} NAMESPACE ${package}:: FILE ${package}Targets.cmake DESTINATION "${package_dir}")
 configure_package_config_file(cmake/${package}Config.cmake.in ${package}Config.cmake

@@ -63,8 +63,9 @@ double luminance(const QColor& color)
 
 double contrastRatio(const QColor& first, const QColor& second)
 {
-    const auto [dark, light] = std::minmax(luminance(first), luminance(second));
-    return (light + 0.05) / (dark + 0.05);
+    const double one = luminance(first);
+    const double other = luminance(second);
+    return (qMax(one, other) + 0.05) / (qMin(one, other) + 0.05);
 }
 
 /// The contrast of a widget's text against the lightest or darkest pixel behind it, both taken from what is painted.

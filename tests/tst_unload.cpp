@@ -47,9 +47,10 @@ void UnloadTest::wordsLeaveWithTheLibrary_data()
 void UnloadTest::wordsLeaveWithTheLibrary()
 {
     QFETCH(int, roots);
-    QPluginLoader loader(QStringLiteral(GUI_PLUGIN));
-    // Qt keeps plugins in memory unless told otherwise.
+    // Qt keeps plugins in memory unless told otherwise before it knows which.
+    QPluginLoader loader;
     loader.setLoadHints(QLibrary::LoadHints());
+    loader.setFileName(QStringLiteral(GUI_PLUGIN));
     for (int i = 0; i < roots; ++i) {
         const QPointer<QObject> root(loader.instance());
         auto* gui = qobject_cast<GuiInterface*>(root.data());

@@ -1,7 +1,6 @@
 #include "DisplayText.h"
 
 #include <QFontMetrics>
-#include <QLabel>
 #include <QPlainTextEdit>
 #include <QTextDocument>
 #include <QTextEdit>
@@ -98,9 +97,4 @@ void showPlainText(QTextEdit* edit, const QString& text)
 void showPlainText(QPlainTextEdit* edit, const QString& text)
 {
     showWrapped(edit, text);
-}
-
-void giveDescendersRoom(QLabel* heading)
-{
-    heading->setContentsMargins(0, 0, 0, 2);
 }

@@ -4,7 +4,6 @@
 
 QT_BEGIN_NAMESPACE
 class QFontMetrics;
-class QLabel;
 class QPlainTextEdit;
 class QTextEdit;
 QT_END_NAMESPACE
@@ -31,6 +30,3 @@ QString literalWindowTitle(const QString& text);
 /// Shows @p text in @p edit, in a time that grows with its length even when it is one endless word.
 void showPlainText(QTextEdit* edit, const QString& text);
 void showPlainText(QPlainTextEdit* edit, const QString& text);
-
-/// Raises the text of a heading that is as low as its letters, so that those that reach below the line are not cut.
-void giveDescendersRoom(QLabel* heading);

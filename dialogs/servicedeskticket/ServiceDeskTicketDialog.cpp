@@ -204,7 +204,6 @@ void ServiceDeskTicketDialog::slSubmit()
     if (submitting)
         return;
     submitting = true;
-    // The host may show another dialog meanwhile and delete this one.
     const QPointer<ServiceDeskTicketDialog> self(this);
     Q_EMIT dialogEvent(this, evSubmit);
     if (self)

@@ -9,11 +9,11 @@
 #include <QTest>
 #include <QWidget>
 
-/// Whether the program is built with the Address sanitizer, which makes it slower and memory figures meaningless.
+/// Whether this build watches memory, which makes it several times slower.
 #if defined(__SANITIZE_ADDRESS__)
-constexpr bool hasSanitizer = true;
+inline constexpr bool hasSanitizer = true;
 #else
-constexpr bool hasSanitizer = false;
+inline constexpr bool hasSanitizer = false;
 #endif
 
 /// The base of all tests that drive the built plugin: loads it as a host does, records the events of every dialog got
