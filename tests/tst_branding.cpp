@@ -88,6 +88,7 @@ void BrandingTest::file_data()
     row("comment", "; companyName=Acme\nsupportPhone=+49 30 1234\n", QStringLiteral("Ostrel"), QStringLiteral("Tavik"),
         QStringLiteral("+49 30 1234"));
     row("noise", QByteArray("\0\1\2[\xFF\xFE=;\n]\"\\x", 13));
+    row("an object", "companyName=@Variant(\\0\\0\\0\\b\\xff\\xff\\xff\\xfe)\n");
     row("nothing", QByteArray());
     const QString megabyte(1 << 20, QLatin1Char('x'));
     row("a megabyte long", "companyName=" + megabyte.toUtf8() + "\n", megabyte);

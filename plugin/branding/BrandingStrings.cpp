@@ -8,6 +8,8 @@
 #include <QSettings>
 #include <QTextCodec>
 
+#include <new>
+
 namespace {
 bool isUtf8(const QByteArray& bytes)
 {
@@ -18,10 +20,15 @@ bool isUtf8(const QByteArray& bytes)
 
 void readFile(BrandingStrings& strings, const QString& path)
 {
-    QSettings settings(path, QSettings::IniFormat);
     QFile file(path);
+    const QByteArray content = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    // A serialised object in place of a text: a few bytes of it may ask for any amount of memory.
+    if (content.contains("@Variant("))
+        return;
+
+    QSettings settings(path, QSettings::IniFormat);
     // Without a codec QSettings takes the bytes for Latin-1, and few editors write that today.
-    if (file.open(QIODevice::ReadOnly) && isUtf8(file.readAll()))
+    if (isUtf8(content))
         settings.setIniCodec("UTF-8");
 
     const auto read = [&settings](const char* key, QString& field) {
@@ -46,7 +53,11 @@ BrandingStrings::BrandingStrings(const QString& directory)
     const QString path = directory + QDir::separator() + QStringLiteral("oem.strings");
     qDebug().nospace() << "Try to find oem.strings in " << path;
     if (QFile::exists(path)) {
-        readFile(*this, path);
+        try {
+            readFile(*this, path);
+        } catch (const std::bad_alloc&) {
+            // Such an object behind escapes; what was read before it stays.
+        }
         qDebug("OEM strings loaded");
     } else {
         qDebug().nospace() << "OEM strings file does not exists! " << path;

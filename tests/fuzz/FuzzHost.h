@@ -14,7 +14,9 @@ inline GuiInterface& fuzzedGui()
     static int argc = 1;
     static char name[] = "fuzz";
     static char* argv[] = {name, nullptr};
-    static QApplication application(argc, argv);
+    // Never destroyed: libFuzzer leaves through exit(), when the thread's data that windows need is gone already.
+    static auto* const application = new QApplication(argc, argv);
+    Q_UNUSED(application)
     QLoggingCategory::setFilterRules(QStringLiteral("*=false"));
     QApplication::setQuitOnLastWindowClosed(false);
     static QPluginLoader loader(QStringLiteral(GUI_PLUGIN));
