@@ -373,7 +373,6 @@ int main(int argc, char** argv)
     argc -= 2;
     argv += 2;
     QApplication application(argc, argv);
-    QApplication::setQuitOnLastWindowClosed(false);
-    return QTest::qExec(&test, argc, argv);
+    return runTest(test, argc, argv);
 }
 #include "tst_language.moc"

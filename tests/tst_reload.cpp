@@ -107,11 +107,10 @@ int main(int argc, char** argv)
     prepareTestEnvironment();
     qputenv("LANGUAGE", "de");
     QApplication application(argc, argv);
-    QApplication::setQuitOnLastWindowClosed(false);
     // The debug messages of a thousand loads would hide all others.
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
     ReloadTest test;
-    return QTest::qExec(&test, argc, argv);
+    return runTest(test, argc, argv);
 }
 
 #include "tst_reload.moc"

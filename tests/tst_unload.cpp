@@ -76,8 +76,7 @@ int main(int argc, char** argv)
     prepareTestEnvironment();
     qputenv("LANGUAGE", "de");
     QApplication application(argc, argv);
-    QApplication::setQuitOnLastWindowClosed(false);
     UnloadTest test;
-    return QTest::qExec(&test, argc, argv);
+    return runTest(test, argc, argv);
 }
 #include "tst_unload.moc"

@@ -118,13 +118,15 @@ template <> inline QString GuiTest::familyName(IZentPasswordDialog*) { return QS
 /// What every test program starts with; see GUI_TEST_MAIN.
 void prepareTestEnvironment();
 
+/// Runs the test functions, in an application that outlives its windows. The program's result.
+int runTest(QObject& test, int argc, char** argv);
+
 /// main() of a test program: no window system needed, English, one font resolution on every machine.
 #define GUI_TEST_MAIN(TestClass)                                                                                       \
     int main(int argc, char** argv)                                                                                    \
     {                                                                                                                  \
         prepareTestEnvironment();                                                                                      \
         QApplication application(argc, argv);                                                                          \
-        QApplication::setQuitOnLastWindowClosed(false);                                                                \
         TestClass test;                                                                                                \
-        return QTest::qExec(&test, argc, argv);                                                                        \
+        return runTest(test, argc, argv);                                                                              \
     }
