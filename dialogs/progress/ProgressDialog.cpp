@@ -109,10 +109,10 @@ void ProgressDialog::updateProgressAnimation()
     if (nextFrame >= frameCount)
         nextFrame = 0;
     const auto frame = static_cast<size_t>(nextFrame);
-    QPixmap& picture = (*framePictures)[frame];
+    QImage& picture = (*framePictures)[frame];
     if (picture.isNull())
         picture.load(framePaths[frame]);
-    ui->messageIcon->setPixmap(picture);
+    ui->messageIcon->setPixmap(QPixmap::fromImage(picture));
     ++nextFrame;
 }
 

@@ -3,6 +3,8 @@
 #include "BaseDialog.h"
 #include "IProgressDialog.h"
 
+#include <QImage>
+
 #include <array>
 #include <memory>
 
@@ -44,7 +46,8 @@ public Q_SLOTS:
 
 private:
     static constexpr int frameCount = 24;
-    using FramePictures = std::array<QPixmap, frameCount>;
+    /// Read from their files once, and kept with their palettes: as pixmaps they would take 25 megabytes, not 6.
+    using FramePictures = std::array<QImage, frameCount>;
 
     static std::shared_ptr<FramePictures> sharedFramePictures();
 
