@@ -121,9 +121,9 @@ Operation makeOperation(const char* name, Function function)
     operation.call = [function, name = operation.name](IBaseDialog& dialog, const QJsonArray& values) -> QJsonValue {
         if (values.size() != static_cast<int>(sizeof...(Arguments)))
             throw ScriptError(QStringLiteral("%1 takes %2 arguments").arg(name).arg(sizeof...(Arguments)));
-        auto& interface = dynamic_cast<Interface&>(dialog);
+        auto& target = dynamic_cast<Interface&>(dialog);
         auto arguments = argumentsFromJson<Arguments...>(values, std::index_sequence_for<Arguments...>());
-        const auto invoke = [&](auto&... argument) -> Result { return (interface.*function)(argument...); };
+        const auto invoke = [&](auto&... argument) -> Result { return (target.*function)(argument...); };
         if constexpr (std::is_void_v<Result>) {
             std::apply(invoke, arguments);
             return QJsonValue();
