@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QLabel>
+
+/// The card that carries a dialog's contents. It says that its picture hides all that lies beneath, so that the
+/// window's own picture, which is large and costly to stretch, is drawn only where it shows.
+class ContentCard final : public QLabel {
+    Q_OBJECT
+
+public:
+    using QLabel::QLabel;
+
+protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+};
