@@ -27,8 +27,7 @@ const QPair<const char*, const char*> states[] = {
                                    "startRemoteToolsSession": ["2", 1, "John", 1, true],
                                    "addLogEvent": [1, "file", "file-upload", "a.txt", "reply"]})"},
     {"RemoteConnectionDialog", R"({"addRemoteControlSession": ["1", "Jane", 1, false],
-                                   "startRemoteToolsSession": ["2", 1, "John", 1, false],
-                                   "addLogEvent": [1, "file", "file-upload", "a.txt", "reply"]})"},
+                                   "startRemoteToolsSession": ["2", 1, "John", 1, false]})"},
 };
 
 QAccessibleInterface* accessible(QWidget* widget)
@@ -135,16 +134,18 @@ void AccessTest::everythingIsNamed_data()
 void AccessTest::everythingIsNamed()
 {
     QWidget& top = window(showState());
-    int named = 0;
+    QStringList names;
     for (QAccessibleInterface* part : partsOf(accessible(&top))) {
         const bool matters = part->state().focusable || part->role() == QAccessible::Button || part->object() == &top;
         if (!matters || part->state().invisible)
             continue;
-        ++named;
-        QVERIFY2(!part->text(QAccessible::Name).trimmed().isEmpty(),
-                 part->object() ? qPrintable(part->object()->objectName()) : "a part without object");
+        const QString name = part->text(QAccessible::Name).trimmed();
+        QVERIFY2(!name.isEmpty(), part->object() ? qPrintable(part->object()->objectName()) : "a part without object");
+        // Two buttons may do the same; fields can be told apart.
+        QVERIFY2(part->role() != QAccessible::EditableText || !names.contains(name), qPrintable(name));
+        names << name;
     }
-    QVERIFY(named > 1);
+    QVERIFY(names.size() > 1);
     // They stand beside the words that say the same.
     const QStringList decorations{QStringLiteral("iconContainer"), QStringLiteral("fileTransferIconContainer")};
     for (const QLabel* label : top.findChildren<QLabel*>()) {
