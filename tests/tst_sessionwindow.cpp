@@ -54,7 +54,6 @@ struct Model {
     bool toolsCloseEnabled = true;
     bool keepPanels = false;
     bool keepTools = false;
-    bool logShown = false;
     bool hidden = false; ///< By the person, until the next session starts.
     QStringList events;
 
@@ -206,11 +205,6 @@ void SessionWindowTest::randomWalk()
          [](Model& model, Id&, bool) { model.clickTools(); }},
         {"keep tools", [](Session* session, Id&, bool flag) { session->setKeepRemoteToolsPopup(flag); },
          [](Model& model, Id&, bool flag) { model.keepTools = flag; }},
-        {"log",
-         [](Session* session, Id&, bool flag) {
-             child<QCheckBox>(session, "fileTransferInfoPanelCheckBox").setChecked(flag);
-         },
-         [](Model& model, Id&, bool flag) { model.logShown = flag; }},
         {"hide", [](Session* session, Id&, bool) { child<QPushButton>(session, "closeButton").click(); },
          [](Model& model, Id&, bool) { model.hidden = true; }},
     };
@@ -265,7 +259,6 @@ void SessionWindowTest::compare(Session* session, const Model& model)
     for (const DialogEvent& event : qAsConst(events))
         told << dialogFamily(event.dialog).events.value(event.event) + QLatin1Char(' ') + event.sessionId;
     QCOMPARE(told, model.events);
-    QCOMPARE(child(session, "fileTransferInfo").isHidden(), !model.logShown);
     QCOMPARE(window(session).findChild<QTimer*>()->isActive(), !model.running.isEmpty());
     QCOMPARE(window(session).isVisible(), model.isVisible());
     QVERIFY(!model.isVisible() || corner(session) == screenCorner());
