@@ -213,6 +213,11 @@ void LogsListView::paintEvent(QPaintEvent* event)
         option.state.setFlag(QStyle::State_HasFocus, focused && index == currentIndex());
         itemDelegate()->paint(&painter, option, index);
     }
+    if (focused && last < 0) {
+        // Without a row to mark, the list itself shows that the keyboard has come here.
+        painter.setPen(palette().color(QPalette::Text));
+        painter.drawRect(viewport()->rect().adjusted(0, 0, -1, -1));
+    }
 }
 
 void LogsListView::changeEvent(QEvent* event)

@@ -8,6 +8,8 @@
 #include <QThread>
 #include <QThreadPool>
 
+#include <utility>
+
 namespace {
 QtMessageHandler previousHandler = nullptr;
 QStringList allMessages;
@@ -55,7 +57,11 @@ int runTest(QObject& test, int argc, char** argv)
 
 GuiTest::GuiTest()
 {
-    connect(&recorder, &EventReceiver::received, this, [this](const DialogEvent& event) { events << event; });
+    connect(&recorder, &EventReceiver::received, this, [this](const DialogEvent& event) {
+        events << event;
+        if (const auto react = std::exchange(nextReaction, nullptr))
+            react();
+    });
 }
 
 GuiInterface& GuiTest::gui()
@@ -93,6 +99,11 @@ QStringList GuiTest::takeEvents()
         names << dialogFamily(event.dialog).events.value(event.event, QString::number(event.event));
     events.clear();
     return names;
+}
+
+void GuiTest::onNextEvent(std::function<void()> reaction)
+{
+    nextReaction = std::move(reaction);
 }
 
 QWidget& GuiTest::window(IBaseDialog* dialog)
@@ -205,6 +216,7 @@ void GuiTest::cleanup()
     gui().setRatio(1.0F);
     settle();
     events.clear();
+    nextReaction = nullptr;
 
     qInstallMessageHandler(previousHandler);
     for (const QRegularExpression& expected : qAsConst(expectedWarnings)) {

@@ -9,6 +9,8 @@
 #include <QTest>
 #include <QWidget>
 
+#include <functional>
+
 /// Whether this build watches memory, which makes it several times slower.
 #if defined(__SANITIZE_ADDRESS__)
 inline constexpr bool hasSanitizer = true;
@@ -49,6 +51,8 @@ protected:
     QStringList takeEvents();
     /// All events received since the last takeEvents().
     QVector<DialogEvent> events;
+    /// Runs @p reaction once, in the host's slot for the next event.
+    void onNextEvent(std::function<void()> reaction);
 
     static QWidget& window(IBaseDialog* dialog);
     /// The widget of that object name; a null reference never returns: the test is aborted.
@@ -97,6 +101,7 @@ private:
     EventReceiver recorder;
     QVector<QPair<QString, QString>> got;
     QVector<QRegularExpression> expectedWarnings;
+    std::function<void()> nextReaction;
 };
 
 // clang-format off
