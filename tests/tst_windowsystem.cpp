@@ -12,25 +12,58 @@ class WindowSystemTest : public GuiTest {
     Q_OBJECT
 
 private Q_SLOTS:
-    void headlineStory();
-    void staysOnTop();
+    void keysReachTheDialogOnTop();
     void modalBlocksTheHost();
     void sessionWindowLeavesTheFocus();
-    void dragging();
     void promptStartsOnCancel();
 
 private:
-    QStringList awaitEvents();
-    /// Runs a program while windows go on working, and returns what it prints.
-    static QByteArray run(const QString& program, const QStringList& arguments);
-    static void pressKeys(const QString& keys);
-    static void moveMouse(const QPoint& position);
-    static void clickOn(const QWidget& widget);
-    /// All windows from the lowest to the topmost, as the window manager has them.
-    static QVector<WId> stacking();
+    /// Waits for the next event.
+    QString event();
 };
 
 namespace {
+/// Runs a program while windows go on working, and returns what it prints.
+QByteArray run(const QString& command)
+{
+    QProcess process;
+    QEventLoop loop;
+    QObject::connect(&process, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), &loop, &QEventLoop::quit);
+    QStringList arguments = command.split(QLatin1Char(' '));
+    const QString program = arguments.takeFirst();
+    process.start(program, arguments);
+    if (!process.waitForStarted())
+        qFatal("%s does not start", qPrintable(program));
+    if (process.state() != QProcess::NotRunning)
+        loop.exec();
+    return process.readAllStandardOutput();
+}
+
+void pressKeys(const char* keys)
+{
+    run(QStringLiteral("xdotool key ") + QLatin1String(keys));
+}
+
+void clickAt(const QPoint& position)
+{
+    run(QStringLiteral("xdotool mousemove --sync %1 %2 click 1").arg(position.x()).arg(position.y()));
+}
+
+void clickOn(const QWidget& widget)
+{
+    clickAt(widget.mapToGlobal(widget.rect().center()));
+}
+
+/// The place of a window among all from the lowest to the topmost, as the window manager has them; -1 if it has not.
+int level(const QWidget& window)
+{
+    const QByteArray property = run(QStringLiteral("xprop -root _NET_CLIENT_LIST_STACKING"));
+    QVector<WId> windows;
+    for (const QByteArray& id : property.mid(property.indexOf('#') + 1).split(','))
+        windows << id.trimmed().toULongLong(nullptr, 16);
+    return windows.indexOf(window.winId());
+}
+
 /// A window of the host program that fills the screen's middle.
 class HostWindow : public QWidget {
 public:
@@ -40,13 +73,18 @@ public:
         column->addWidget(&edit);
         column->addWidget(&button);
         QObject::connect(&button, &QPushButton::clicked, this, [this] { ++clicks; });
-        const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
-        setGeometry(area.adjusted(40, 40, -40, -40));
+        setGeometry(QGuiApplication::primaryScreen()->availableGeometry().adjusted(40, 40, -40, -40));
         show();
+        comeToFront();
+        edit.setFocus();
+    }
+
+    void comeToFront()
+    {
+        raise();
         activateWindow();
         if (!QTest::qWaitForWindowActive(this))
             qFatal("the host's window did not become active");
-        edit.setFocus();
     }
 
     QLineEdit edit;
@@ -55,140 +93,57 @@ public:
 };
 } // namespace
 
-QStringList WindowSystemTest::awaitEvents()
+QString WindowSystemTest::event()
 {
-    return QTest::qWaitFor([this] { return !events.isEmpty(); }) ? takeEvents() : QStringList();
+    return QTest::qWaitFor([this] { return !events.isEmpty(); }) ? takeEvents().join(QLatin1Char(' ')) : QString();
 }
 
-QByteArray WindowSystemTest::run(const QString& program, const QStringList& arguments)
-{
-    QProcess process;
-    QEventLoop loop;
-    QObject::connect(&process, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), &loop, &QEventLoop::quit);
-    process.start(program, arguments);
-    if (!process.waitForStarted())
-        qFatal("%s does not start", qPrintable(program));
-    if (process.state() != QProcess::NotRunning)
-        loop.exec();
-    return process.readAllStandardOutput();
-}
-
-void WindowSystemTest::pressKeys(const QString& keys)
-{
-    run(QStringLiteral("xdotool"), {QStringLiteral("key"), keys});
-}
-
-void WindowSystemTest::moveMouse(const QPoint& position)
-{
-    run(QStringLiteral("xdotool"),
-        {QStringLiteral("mousemove"), QStringLiteral("--sync"), QString::number(position.x()),
-         QString::number(position.y())});
-}
-
-void WindowSystemTest::clickOn(const QWidget& widget)
-{
-    moveMouse(widget.mapToGlobal(widget.rect().center()));
-    run(QStringLiteral("xdotool"), {QStringLiteral("click"), QStringLiteral("1")});
-}
-
-QVector<WId> WindowSystemTest::stacking()
-{
-    const QByteArray property =
-        run(QStringLiteral("xprop"), {QStringLiteral("-root"), QStringLiteral("_NET_CLIENT_LIST_STACKING")});
-    QVector<WId> windows;
-    const QList<QByteArray> ids = property.mid(property.indexOf('#') + 1).split(',');
-    for (const QByteArray& id : ids)
-        windows << id.trimmed().toULongLong(nullptr, 16);
-    return windows;
-}
-
-void WindowSystemTest::headlineStory()
-{
-    auto* error = show<IErrorMessageDialog>();
-    error->setMessage(QStringLiteral("The update could not be downloaded. Press Enter to try again."));
-    pressKeys(QStringLiteral("Return"));
-    QCOMPARE(awaitEvents(), QStringList{QStringLiteral("evTryAgain")});
-    QVERIFY(window(error).isVisible());
-    error->hide();
-
-    auto* confirmation = show<IAcceptMessageDialog>();
-    clickOn(child(confirmation, "btnMessageInnerButton"));
-    QCOMPARE(awaitEvents(), QStringList{QStringLiteral("evOk")});
-    pressKeys(QStringLiteral("Escape"));
-    QVERIFY(window(confirmation).isVisible());
-    confirmation->done(0);
-    QTRY_VERIFY(!stacking().contains(window(confirmation).winId()));
-}
-
-void WindowSystemTest::staysOnTop()
+void WindowSystemTest::keysReachTheDialogOnTop()
 {
     HostWindow host;
     auto* dialog = show<IErrorMessageDialog>();
+    pressKeys("Return");
+    QCOMPARE(event(), QStringLiteral("evTryAgain"));
     auto* session = get<IRemoteConnectionDialog>();
     session->addRemoteControlSession(QStringLiteral("id"), QStringLiteral("user"), 1000, true);
-    QTRY_VERIFY(stacking().contains(window(session).winId()));
-    host.raise();
-    host.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&host));
-    const auto isBelow = [](const QWidget& lower, const QWidget& upper) {
-        const QVector<WId> windows = stacking();
-        return windows.indexOf(lower.winId()) >= 0 && windows.indexOf(lower.winId()) < windows.indexOf(upper.winId());
-    };
-    QTRY_VERIFY(isBelow(host, window(dialog)));
-    QVERIFY(isBelow(host, window(session)));
+    QTRY_VERIFY(level(window(session)) >= 0);
+    host.comeToFront();
+    QTRY_VERIFY(level(host) >= 0 && level(host) < level(window(dialog)));
+    QVERIFY(level(host) < level(window(session)));
+    dialog->done(0);
+    QTRY_COMPARE(level(window(dialog)), -1);
 }
 
 void WindowSystemTest::modalBlocksTheHost()
 {
     HostWindow host;
-    clickOn(host.button);
-    QTRY_COMPARE(host.clicks, 1);
     auto* dialog = get<IAcceptMessageDialog>();
     dialog->setModal(true);
     showActive(dialog);
-    // The button is beside the dialog, not under it.
+    // Beside the dialog, not under it.
     QVERIFY(host.button.width() > window(dialog).width());
-    moveMouse(host.button.mapToGlobal(QPoint(10, host.button.height() / 2)));
-    run(QStringLiteral("xdotool"), {QStringLiteral("click"), QStringLiteral("1")});
-    pressKeys(QStringLiteral("Return"));
-    QCOMPARE(awaitEvents(), QStringList{QStringLiteral("evOk")});
-    QCOMPARE(host.clicks, 1);
+    clickAt(host.button.mapToGlobal(QPoint(10, host.button.height() / 2)));
+    pressKeys("Return");
+    QCOMPARE(event(), QStringLiteral("evOk"));
+    QCOMPARE(host.clicks, 0);
     dialog->hide();
     clickOn(host.button);
-    QTRY_COMPARE(host.clicks, 2);
+    QTRY_COMPARE(host.clicks, 1);
 }
 
 void WindowSystemTest::sessionWindowLeavesTheFocus()
 {
     HostWindow host;
-    pressKeys(QStringLiteral("a"));
+    pressKeys("a");
     QTRY_COMPARE(host.edit.text(), QStringLiteral("a"));
     auto* session = get<IRemoteConnectionDialog>();
     session->addRemoteControlSession(QStringLiteral("id"), QStringLiteral("user"), 1000, true);
     session->startRemoteToolsSession(QStringLiteral("tools"), 1, QStringLiteral("user"), 1000, true);
-    QTRY_VERIFY(stacking().contains(window(session).winId()));
-    pressKeys(QStringLiteral("b"));
-    pressKeys(QStringLiteral("space"));
+    QTRY_VERIFY(level(window(session)) >= 0);
+    pressKeys("b space");
     QTRY_COMPARE(host.edit.text(), QStringLiteral("ab "));
     QVERIFY(!window(session).isActiveWindow());
     QCOMPARE(takeEvents(), QStringList());
-}
-
-void WindowSystemTest::dragging()
-{
-    auto* dialog = show<IErrorMessageDialog>();
-    QWidget& top = window(dialog);
-    const QPoint start = top.pos();
-    const QPoint grip = child(dialog, "content").mapToGlobal(QPoint(40, 40));
-    moveMouse(grip);
-    run(QStringLiteral("xdotool"), {QStringLiteral("mousedown"), QStringLiteral("1")});
-    for (int i = 1; i <= 5; ++i)
-        moveMouse(grip + QPoint(20, -10) * i);
-    QTRY_COMPARE(top.pos(), start + QPoint(100, -50));
-    run(QStringLiteral("xdotool"), {QStringLiteral("mouseup"), QStringLiteral("1")});
-    moveMouse(grip);
-    settle();
-    QCOMPARE(top.pos(), start + QPoint(100, -50));
 }
 
 void WindowSystemTest::promptStartsOnCancel()
@@ -198,12 +153,10 @@ void WindowSystemTest::promptStartsOnCancel()
     prompt->setCountdown(1000);
     showActive(prompt);
     QTRY_VERIFY(child(prompt, "cancelButton").hasFocus());
-    pressKeys(QStringLiteral("y"));
-    pressKeys(QStringLiteral("Escape"));
-    pressKeys(QStringLiteral("space"));
-    QCOMPARE(awaitEvents(), QStringList{QStringLiteral("evCancel")});
+    pressKeys("y Escape space");
+    QCOMPARE(event(), QStringLiteral("evCancel"));
     clickOn(child(prompt, "allowButton"));
-    QCOMPARE(awaitEvents(), QStringList{QStringLiteral("evAllow")});
+    QCOMPARE(event(), QStringLiteral("evAllow"));
 }
 
 GUI_TEST_MAIN(WindowSystemTest)
