@@ -3,18 +3,13 @@
 #include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDebug>
 #include <QGroupBox>
 #include <QJsonDocument>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QStyleOption>
 #include <QTextDocument>
-#include <QTextDocumentFragment>
 #include <QTextEdit>
-#include <QTextLayout>
-#include <QtMath>
 
 /// What the dialogs look like in one language on a screen of one resolution. The library chooses its language when it
 /// is loaded, and Qt the size of its fonts, so that each pair takes a program run of its own:
@@ -32,138 +27,73 @@ private Q_SLOTS:
 };
 
 namespace {
-/// A text on screen and its room, both in the coordinates of the widget.
-struct Text {
-    QWidget* widget;
-    QString text;
-    QRect drawn;
-    QRect room;
+/// The property that holds the text which the library puts into @p widget; null if it puts none.
+const char* textProperty(const QWidget* widget)
+{
+    if (qobject_cast<const QGroupBox*>(widget))
+        return "title";
+    if (qobject_cast<const QLabel*>(widget) || qobject_cast<const QAbstractButton*>(widget))
+        return "text";
+    if (qobject_cast<const QLineEdit*>(widget) || qobject_cast<const QTextEdit*>(widget))
+        return "placeholderText";
+    return qobject_cast<const QComboBox*>(widget) ? "currentIndex" : nullptr;
+}
 
-    bool fits() const
-    {
-        // The heading of the login is 16 pixels high, and East Asian letters of its font lose one pixel above and
-        // below.
-        const bool isLoginHeading = widget->objectName() == QLatin1String("label_2")
-            && widget->window()->objectName() == QLatin1String("AuthorizationDialog");
-        const int tolerance = isLoginHeading ? 1 : 0;
-        return text.isEmpty() || room.adjusted(0, -tolerance, 0, tolerance).contains(drawn);
-    }
-
-    /// What no other text may cover: of a label and a title what is drawn, of a control all its room.
-    QRect area() const
-    {
-        const bool isPassive = qobject_cast<QLabel*>(widget) || qobject_cast<QGroupBox*>(widget);
-        const QRect own = isPassive ? drawn & widget->rect() : room;
-        return own.translated(widget->mapTo(widget->window(), QPoint(0, 0)));
-    }
-
-    bool meets(const Text& other) const
-    {
-        const bool areRelated =
-            widget == other.widget || widget->isAncestorOf(other.widget) || other.widget->isAncestorOf(widget);
-        return !areRelated && area().intersects(other.area());
-    }
+/// The painted pixels of a text.
+struct Ink {
+    int amount = 0;
+    QRect box;
 };
 
-QDebug operator<<(QDebug debug, const Text& text)
+Ink inkOf(QWidget* widget, const char* property)
 {
-    return debug << text.widget->objectName() << text.text << "takes" << text.drawn << "has" << text.room;
-}
-
-/// What of @p text must be seen: the space above and below the letters may be cut, and the outer tenth of an em of a
-/// line, which keeps letters apart.
-QRect inkRect(const QString& text, const QFont& font, Qt::Alignment alignment, const QRect& room, bool wrap)
-{
-    QString lines = text;
-    QTextLayout layout(lines.replace(QLatin1Char('\n'), QChar(QChar::LineSeparator)), font);
-    QTextOption option(alignment & Qt::AlignHorizontal_Mask);
-    option.setWrapMode(wrap ? QTextOption::WordWrap : QTextOption::ManualWrap);
-    layout.setTextOption(option);
-    layout.beginLayout();
-    const int spacing = qRound(QFontInfo(font).pixelSize() / 10.0);
-    QRect ink;
-    qreal height = 0;
-    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-        line.setLineWidth(room.width());
-        const QRectF box = line.naturalTextRect();
-        const QRect letters = QFontMetrics(font).tightBoundingRect(lines.mid(line.textStart(), line.textLength()));
-        ink |= QRect(qFloor(box.left()) + spacing, qRound(height + line.ascent()) + letters.top(),
-                     qCeil(box.width()) - 2 * spacing, letters.height());
-        height += line.height();
-    }
-    layout.endLayout();
-    const QSize size(room.width(), qCeil(height));
-    return ink.translated(QStyle::alignedRect(Qt::LeftToRight, alignment, size, room).topLeft());
-}
-
-template <class Option>
-Option styleOption(const QWidget* widget)
-{
-    Option option;
-    option.initFrom(widget);
-    // The frame that shows the focus stands within a button.
-    option.state.setFlag(QStyle::State_HasFocus, false);
-    return option;
-}
-
-/// The texts that the library puts into @p widget, whether they are shown now or not.
-QVector<Text> textsOf(QWidget* widget)
-{
-    const QStyle& style = *widget->style();
-    const Qt::Alignment left = Qt::AlignLeft | Qt::AlignVCenter;
-    const auto place = [widget](const QString& text, const QRect& room, Qt::Alignment alignment, bool wrap = false) {
-        return Text{widget, text, inkRect(text, widget->font(), alignment, room, wrap), room};
-    };
-    if (auto* label = qobject_cast<QLabel*>(widget)) {
-        const bool isRich = label->textFormat() == Qt::RichText;
-        const QString text = isRich ? QTextDocumentFragment::fromHtml(label->text()).toPlainText() : label->text();
-        const int margin = label->margin();
-        const QRect room = label->contentsRect().adjusted(margin, margin, -margin, -margin);
-        Text result = place(text, room, label->alignment(), label->wordWrap());
-        if (label->inherits("LowHeading"))
-            result.drawn.moveTop((label->height() - result.drawn.height()) / 2);
-        return text.isEmpty() ? QVector<Text>() : QVector<Text>{result};
-    }
-    if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
-        if (button->text().isEmpty())
-            return {};
-        auto option = styleOption<QStyleOptionButton>(button);
-        option.text = button->text();
-        if (qobject_cast<QPushButton*>(button)) {
-            const QRect room = style.subElementRect(QStyle::SE_PushButtonContents, &option, button);
-            return {place(button->text(), room, Qt::AlignCenter)};
+    const QVariant text = widget->property(property);
+    if (text.toString().isEmpty())
+        return {};
+    const QImage with = widget->grab().toImage();
+    widget->setProperty(property, text.type() == QVariant::Int ? QVariant(-1) : QVariant(QStringLiteral(" ")));
+    const QImage without = widget->grab().toImage();
+    widget->setProperty(property, text);
+    Ink ink;
+    for (int i = 0; i < with.width() * with.height(); ++i) {
+        const QPoint position(i % with.width(), i / with.width());
+        if (with.pixel(position) != without.pixel(position)) {
+            ++ink.amount;
+            ink.box |= QRect(position, QSize(1, 1));
         }
-        const bool isBox = qobject_cast<QCheckBox*>(button);
-        const auto contents = isBox ? QStyle::SE_CheckBoxContents : QStyle::SE_RadioButtonContents;
-        return {place(button->text(), style.subElementRect(contents, &option, button), left)};
     }
-    if (auto* box = qobject_cast<QGroupBox*>(widget)) {
-        auto option = styleOption<QStyleOptionGroupBox>(box);
-        option.text = box->title();
-        const QRect label = style.subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxLabel, box);
-        Text title = place(box->title(), label, Qt::AlignLeft | Qt::AlignTop);
-        title.room = box->rect().adjusted(0, 0, -10, 0);
-        return {title};
-    }
-    if (auto* comboBox = qobject_cast<QComboBox*>(widget)) {
-        const auto option = styleOption<QStyleOptionComboBox>(comboBox);
-        const QRect room = style.subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, comboBox);
-        QVector<Text> items;
-        for (int i = 0; i < comboBox->count(); ++i)
-            items << place(comboBox->itemText(i), room, left);
-        return items;
-    }
-    if (auto* edit = qobject_cast<QLineEdit*>(widget)) {
-        const auto option = styleOption<QStyleOptionFrame>(edit);
-        const QRect room = style.subElementRect(QStyle::SE_LineEditContents, &option, edit);
-        return {place(edit->placeholderText(), room.adjusted(2, 0, -2, 0), left)};
-    }
-    if (auto* edit = qobject_cast<QTextEdit*>(widget)) {
-        const int margin = qRound(edit->document()->documentMargin());
-        const QRect room = edit->viewport()->rect().adjusted(margin, margin, -margin, -margin);
-        return {place(edit->placeholderText(), room, Qt::AlignLeft | Qt::AlignTop, true)};
-    }
-    return {};
+    return ink;
+}
+
+/// Whether more of the text would be painted if its widget were larger, or whether it stands on the frame of a button.
+bool isCut(QWidget* widget, const char* property)
+{
+    const Ink ink = inkOf(widget, property);
+    const auto* label = qobject_cast<QLabel*>(widget);
+    const bool wraps = qobject_cast<QTextEdit*>(widget) || (label && label->wordWrap());
+    const QSize size = widget->size();
+    const QSize maximum = widget->maximumSize();
+    widget->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    widget->resize(size + QSize(wraps ? 0 : 400, 60));
+    const int all = inkOf(widget, property).amount;
+    widget->setMaximumSize(maximum);
+    widget->resize(size);
+    // The heading of the login is 16 pixels high, and East Asian letters of its font lose one pixel above and below.
+    const bool isLoginHeading = widget->objectName() == QLatin1String("label_2")
+        && widget->window()->objectName() == QLatin1String("AuthorizationDialog");
+    constexpr int lessThanALetter = 6;
+    // A word that is wider than the widget is cut at its edge.
+    const int frame = qobject_cast<QPushButton*>(widget) ? 4 : wraps ? 1 : 0;
+    return ink.amount < all - (isLoginHeading ? all / 20 : lessThanALetter)
+        || (!ink.box.isEmpty() && !widget->rect().adjusted(0, 0, -frame, 0).contains(ink.box));
+}
+
+/// What no other text may cover, in the window: of a label and a title what is painted, of a control all but its frame.
+QRect areaOf(QWidget* widget, const char* property)
+{
+    const bool isPassive = qobject_cast<QLabel*>(widget) || qobject_cast<QGroupBox*>(widget);
+    const QRect area = isPassive ? inkOf(widget, property).box : widget->rect().adjusted(4, 4, -4, -4);
+    return area.translated(widget->mapTo(widget->window(), QPoint(0, 0)));
 }
 } // namespace
 
@@ -207,26 +137,29 @@ void LanguageTest::textsFit()
     settle();
 
     QStringList failures;
-    const auto fail = [&failures](const auto&... what) {
-        QString failure;
-        (QDebug(&failure).noquote() << ... << what);
-        failures << failure;
-    };
-    QVector<Text> visible;
+    QMap<QWidget*, QRect> areas;
     for (QWidget* widget : top.findChildren<QWidget*>()) {
+        const char* const property = textProperty(widget);
         const bool isPlaced = widget->isVisible() || !widget->parentWidget()->layout();
-        for (const Text& text : isPlaced ? textsOf(widget) : QVector<Text>()) {
-            if (!text.fits())
-                fail(text);
-            for (const Text& other : qAsConst(visible)) {
-                if (widget->isVisible() && text.meets(other))
-                    fail(text, "and meets", other);
-            }
-            if (widget->isVisible())
-                visible << text;
+        if (!property || !isPlaced)
+            continue;
+        auto* comboBox = qobject_cast<QComboBox*>(widget);
+        for (int i = 0; i < (comboBox ? comboBox->count() : 1); ++i) {
+            if (comboBox)
+                comboBox->setCurrentIndex(i);
+            if (isCut(widget, property))
+                failures << QStringLiteral("%1 is cut in %2").arg(widget->objectName()).arg(i);
         }
+        if (!widget->isVisible())
+            continue;
+        const QRect area = areaOf(widget, property);
+        for (QWidget* other : areas.keys()) {
+            if (area.intersects(areas.value(other)) && !widget->isAncestorOf(other) && !other->isAncestorOf(widget))
+                failures << QStringLiteral("%1 meets %2").arg(widget->objectName(), other->objectName());
+        }
+        areas.insert(widget, area);
     }
-    QVERIFY2(!visible.isEmpty(), "nothing was measured");
+    QVERIFY2(!areas.isEmpty(), "nothing was measured");
     QVERIFY2(failures.isEmpty(), qPrintable(failures.join(QLatin1Char('\n'))));
 }
 
