@@ -8,19 +8,18 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QTextDocument>
 #include <QTextEdit>
 
 /// What the dialogs look like in one language on a screen of one resolution. The library chooses its language when it
-/// is loaded, and Qt the size of its fonts, so that each pair takes a program run of its own:
-/// tst_language LANGUAGE RATIO.
+/// is loaded, and Qt the size of its fonts, so that each pair takes a program run of its own: LANGUAGE and QT_FONT_DPI
+/// say which.
 class LanguageTest : public GuiTest {
     Q_OBJECT
 
-public:
-    float ratio = 1.0F;
-
 private Q_SLOTS:
+    void init();
     void textsFit_data();
     void textsFit();
     void logRowsFit();
@@ -97,6 +96,13 @@ QRect areaOf(QWidget* widget, const char* property)
 }
 } // namespace
 
+void LanguageTest::init()
+{
+    GuiTest::init();
+    // Hosts scale the dialogs on screens of a higher logical resolution, where fonts grow by themselves.
+    gui().setRatio(static_cast<float>(QGuiApplication::primaryScreen()->logicalDotsPerInch() / 96.0));
+}
+
 void LanguageTest::textsFit_data()
 {
     // What the host calls first, by operation.
@@ -121,7 +127,6 @@ void LanguageTest::textsFit()
 {
     QFETCH(QString, name);
     QFETCH(QString, calls);
-    gui().setRatio(ratio);
     IBaseDialog* dialog = get(name);
     QWidget& top = window(dialog);
     const QJsonObject operations = QJsonDocument::fromJson(calls.toUtf8()).object();
@@ -165,7 +170,6 @@ void LanguageTest::textsFit()
 
 void LanguageTest::logRowsFit()
 {
-    gui().setRatio(ratio);
     auto* sessions = get<IRemoteConnectionDialog>();
     sessions->startRemoteToolsSession(QStringLiteral("1"), 1, QString(), 1, true);
     auto& list = child<QAbstractItemView>(sessions, "logsListView");
@@ -188,18 +192,11 @@ void LanguageTest::logRowsFit()
 
 int main(int argc, char** argv)
 {
-    if (argc < 3)
-        qFatal("usage: tst_language LANGUAGE RATIO [options of Qt Test]");
-    LanguageTest test;
-    test.ratio = QByteArray(argv[2]).toFloat();
-    // Hosts scale the dialogs on screens of a higher logical resolution, where fonts grow by themselves.
-    qputenv("QT_FONT_DPI", QByteArray::number(qRound(96 * test.ratio)));
+    const QByteArray language = qgetenv("LANGUAGE");
     prepareTestEnvironment();
-    qputenv("LANGUAGE", argv[1]);
-    argv[2] = argv[0];
-    argc -= 2;
-    argv += 2;
+    qputenv("LANGUAGE", language);
     QApplication application(argc, argv);
+    LanguageTest test;
     return runTest(test, argc, argv);
 }
 #include "tst_language.moc"

@@ -96,15 +96,11 @@ double textContrast(QWidget& widget, const char* textProperty)
 /// Texts whose colours and backgrounds are fixed by the product's design below what is asked elsewhere.
 double requiredContrast(const QWidget& widget)
 {
-    if (widget.window()->objectName() == QLatin1String("RemoteConnectionDialog")) {
-        static const QStringList names{QStringLiteral("username"), QStringLiteral("timeElapsed"),
-                                       QStringLiteral("usernameFileTransfer"),
-                                       QStringLiteral("timeElapsedFileTransfer")};
-        if (names.contains(widget.objectName()))
-            return 2.5;
-        if (qobject_cast<const QPushButton*>(&widget))
-            return 3.8;
-    }
+    const bool isInSession = widget.window()->objectName() == QLatin1String("RemoteConnectionDialog");
+    if (isInSession && widget.objectName().contains(QRegularExpression(QStringLiteral("^(username|timeElapsed)"))))
+        return 2.5;
+    if (isInSession && qobject_cast<const QPushButton*>(&widget))
+        return 3.8;
     const bool isLarge = widget.font().pointSizeF() >= (widget.font().bold() ? 14 : 18);
     return isLarge ? 3.0 : 4.5;
 }

@@ -15,7 +15,6 @@ private Q_SLOTS:
     void keysReachTheDialogOnTop();
     void modalBlocksTheHost();
     void sessionWindowLeavesTheFocus();
-    void promptStartsOnCancel();
 
 private:
     /// Waits for the next event.
@@ -144,19 +143,6 @@ void WindowSystemTest::sessionWindowLeavesTheFocus()
     QTRY_COMPARE(host.edit.text(), QStringLiteral("ab "));
     QVERIFY(!window(session).isActiveWindow());
     QCOMPARE(takeEvents(), QStringList());
-}
-
-void WindowSystemTest::promptStartsOnCancel()
-{
-    HostWindow host;
-    auto* prompt = get<IApproveRemoteConnectionDialog>(QStringLiteral("id"));
-    prompt->setCountdown(1000);
-    showActive(prompt);
-    QTRY_VERIFY(child(prompt, "cancelButton").hasFocus());
-    pressKeys("y Escape space");
-    QCOMPARE(event(), QStringLiteral("evCancel"));
-    clickOn(child(prompt, "allowButton"));
-    QCOMPARE(event(), QStringLiteral("evAllow"));
 }
 
 GUI_TEST_MAIN(WindowSystemTest)
