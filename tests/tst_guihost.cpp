@@ -1,10 +1,11 @@
+#include "GuiTest.h"
+
 #include <QDir>
 #include <QImage>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
 #include <QTemporaryDir>
-#include <QTest>
 
 /// The reference host as an administrator runs it: a program, its script, its output and its exit status.
 class GuihostTest : public QObject {
@@ -59,9 +60,7 @@ Run play(QByteArray script, const char* dialog)
 
 void GuihostTest::initTestCase()
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QT_FONT_DPI", "96");
-    qputenv("LANGUAGE", "en");
+    prepareTestEnvironment();
 }
 
 void GuihostTest::stories_data()

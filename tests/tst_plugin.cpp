@@ -17,7 +17,6 @@ private Q_SLOTS:
     void ratioReachesNewDialogsOnly();
     void badRatiosChangeNothing();
     void hugeRatiosStayShowable();
-    void deletedByPointer();
     void dialogsOutliveTheRoot();
 };
 
@@ -131,13 +130,6 @@ void PluginTest::hugeRatiosStayShowable()
     checkEvents(dialog, QStringLiteral("btnClose"), QStringLiteral("evClose"));
     dialog->setRatio(std::numeric_limits<float>::denorm_min());
     settle();
-}
-
-void PluginTest::deletedByPointer()
-{
-    delete get<IErrorMessageDialog>();
-    QVERIFY(!gui().deleteErrorMessageDialogInstance());
-    QVERIFY(get<IErrorMessageDialog>()->message().isEmpty());
 }
 
 void PluginTest::dialogsOutliveTheRoot()
