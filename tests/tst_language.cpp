@@ -64,7 +64,7 @@ Ink inkOf(QWidget* widget, const char* property)
     return ink;
 }
 
-/// Whether more of the text would be painted if its widget were larger, or whether it stands on the frame of a button.
+/// Whether more of the text would be painted if its widget were larger.
 bool isCut(QWidget* widget, const char* property)
 {
     const Ink ink = inkOf(widget, property);
@@ -81,7 +81,7 @@ bool isCut(QWidget* widget, const char* property)
     const bool isLoginHeading = widget->objectName() == QLatin1String("label_2")
         && widget->window()->objectName() == QLatin1String("AuthorizationDialog");
     constexpr int lessThanALetter = 6;
-    // A word that is wider than the widget is cut at its edge.
+    // On the frame of a button a text is as good as cut, and so is a word that reaches the edge of its label.
     const int frame = qobject_cast<QPushButton*>(widget) ? 4 : wraps ? 1 : 0;
     return ink.amount < all - (isLoginHeading ? all / 20 : lessThanALetter)
         || (!ink.box.isEmpty() && !widget->rect().adjusted(0, 0, -frame, 0).contains(ink.box));
@@ -114,12 +114,12 @@ void LanguageTest::textsFit_data()
     textRow({"ApproveRemoteConnectionDialog", R"({"setCountdown": [3600], "setCountdownOnCancel": [0]})"});
     textRow({"ApproveRemoteConnectionDialog", R"({"setCountdown": [3600], "setCountdownOnCancel": [1]})"});
     // A long name and a clock of several days, in sessions that the person may end and in others.
-    for (const char* session : {"0, %1, 1, false", "0, %1, 1, true", "1, %1, 1, false", "1, %1, 1, true"}) {
-        const QString tools = QString::fromLatin1(session).arg(QStringLiteral("\"Maximiliane Mustermann-Beispiel\""));
-        const QString calls = QStringLiteral(R"({"addRemoteControlSession": ["1", %1],)"
-                                             R"( "startRemoteToolsSession": ["2", %2]})")
-                                  .arg(tools.mid(3), tools);
-        textRow({"RemoteConnectionDialog", calls.toUtf8().constData()});
+    const QString sessions =
+        QStringLiteral(R"({"addRemoteControlSession": ["1", "Maximiliane Mustermann-Beispiel", 1, %2],)"
+                       R"( "startRemoteToolsSession": ["2", %1, "Maximiliane Mustermann-Beispiel", 1, %2]})");
+    for (const char* type : {"0", "1"}) {
+        for (const char* canEnd : {"false", "true"})
+            textRow({"RemoteConnectionDialog", qPrintable(sessions.arg(QLatin1String(type), QLatin1String(canEnd)))});
     }
 }
 
