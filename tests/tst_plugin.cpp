@@ -1,9 +1,5 @@
 #include "GuiTest.h"
 
-#include <QJsonArray>
-#include <QJsonObject>
-#include <QLabel>
-#include <QPluginLoader>
 #include <QPointer>
 
 #include <cmath>
@@ -17,25 +13,19 @@ private Q_SLOTS:
     void identity();
     void families_data();
     void families();
-    void attachReportsMisuse();
-    void eventsReachEveryReceiverOnce();
+    void attaching();
     void ratioReachesNewDialogsOnly();
-    void badRatiosChangeNothing_data();
     void badRatiosChangeNothing();
     void hugeRatiosStayShowable();
-    void deletedByPointer();
     void dialogsOutliveTheRoot();
 };
 
+namespace {
+const char* const errorSlot = SLOT(onDialogEvent(IErrorMessageDialog*, IErrorMessageDialog::TEvent));
+} // namespace
+
 void PluginTest::identity()
 {
-    const QPluginLoader loader(QStringLiteral(GUI_PLUGIN));
-    const QJsonObject data = loader.metaData();
-    QCOMPARE(data.value(QLatin1String("IID")).toString(), QStringLiteral("com.brisel.RUV.Plugin.GuiInterface"));
-    QCOMPARE(data.value(QLatin1String("className")).toString(), QStringLiteral("Gui"));
-    const QJsonObject keys{{QStringLiteral("Keys"), QJsonArray{QStringLiteral("GuiInterface")}}};
-    QCOMPARE(data.value(QLatin1String("MetaData")).toObject(), keys);
-
     auto* root = dynamic_cast<QObject*>(&gui());
     QVERIFY(root);
     QCOMPARE(root->qt_metacast("Gui"), static_cast<void*>(root));
@@ -65,18 +55,17 @@ void PluginTest::families()
 
     IBaseDialog* first = family.get(gui(), id);
     QVERIFY(first);
-    QCOMPARE(window(first).objectName(), name);
-    QCOMPARE(QString::fromLatin1(window(first).metaObject()->className()), name);
-    QVERIFY(window(first).qt_metacast("IBaseDialog"));
-    QVERIFY(!window(first).parentWidget());
-    QVERIFY(!window(first).isVisible());
-    QCOMPARE(window(first).styleSheet().isEmpty(), name == QLatin1String("RemoteConnectionDialog"));
+    QWidget& top = window(first);
+    QCOMPARE(top.objectName(), name);
+    QVERIFY(top.qt_metacast("IBaseDialog"));
+    QVERIFY(!top.parentWidget() && !top.isVisible());
+    QCOMPARE(top.styleSheet().isEmpty(), name == QLatin1String("RemoteConnectionDialog"));
     QCOMPARE(family.get(gui(), id) == first, !perConnection);
 
     QVERIFY(family.attach(gui(), &receiver, slot, id));
     QVERIFY(!family.attach(gui(), &receiver, slot, id));
 
-    const QPointer<QWidget> guard(&window(first));
+    const QPointer<QWidget> guard(&top);
     QVERIFY(family.remove(gui(), id));
     QVERIFY(!family.remove(gui(), id));
     settle();
@@ -85,20 +74,7 @@ void PluginTest::families()
     delete guard;
 }
 
-void PluginTest::attachReportsMisuse()
-{
-    get<IErrorMessageDialog>();
-    EventReceiver receiver;
-    const char* slot = SLOT(onDialogEvent(IErrorMessageDialog*, IErrorMessageDialog::TEvent));
-    QVERIFY(!gui().attachErrorMessageDialogEventHandler(nullptr, slot));
-    QVERIFY(!gui().attachErrorMessageDialogEventHandler(&receiver, nullptr));
-    expectWarning(QStringLiteral("No such slot EventReceiver::unknown"));
-    expectWarning(QStringLiteral("sender name: *.ErrorMessageDialog"));
-    QVERIFY(!gui().attachErrorMessageDialogEventHandler(&receiver, SLOT(unknown())));
-    QVERIFY(gui().attachErrorMessageDialogEventHandler(&receiver, slot));
-}
-
-void PluginTest::eventsReachEveryReceiverOnce()
+void PluginTest::attaching()
 {
     auto* dialog = show<IErrorMessageDialog>();
     EventReceiver second;
@@ -107,11 +83,15 @@ void PluginTest::eventsReachEveryReceiverOnce()
         QCOMPARE(event.sender, static_cast<IBaseDialog*>(dialog));
         ++received;
     });
-    const char* slot = SLOT(onDialogEvent(IErrorMessageDialog*, IErrorMessageDialog::TEvent));
-    QVERIFY(gui().attachErrorMessageDialogEventHandler(&second, slot));
-    QVERIFY(!gui().attachErrorMessageDialogEventHandler(&second, slot));
-    click(dialog, "btnCancel");
-    QCOMPARE(takeEvents(), QStringList{QStringLiteral("evClose")});
+    QVERIFY(!gui().attachErrorMessageDialogEventHandler(nullptr, errorSlot));
+    QVERIFY(!gui().attachErrorMessageDialogEventHandler(&second, nullptr));
+    expectWarning(QStringLiteral("No such slot EventReceiver::unknown"));
+    expectWarning(QStringLiteral("sender name: *.ErrorMessageDialog"));
+    QVERIFY(!gui().attachErrorMessageDialogEventHandler(&second, SLOT(unknown())));
+    QVERIFY(gui().attachErrorMessageDialogEventHandler(&second, errorSlot));
+    QVERIFY(!gui().attachErrorMessageDialogEventHandler(&second, errorSlot));
+
+    checkEvents(dialog, QStringLiteral("btnCancel"), QStringLiteral("evClose"));
     QCOMPARE(received, 1);
 }
 
@@ -125,60 +105,39 @@ void PluginTest::ratioReachesNewDialogsOnly()
     QCOMPARE(window(get<IAcceptMessageDialog>()).size(), QSize(751, 753));
 }
 
-void PluginTest::badRatiosChangeNothing_data()
-{
-    QTest::addColumn<float>("ratio");
-    QTest::newRow("zero") << 0.0F;
-    QTest::newRow("negative") << -1.5F;
-    QTest::newRow("not a number") << std::nanf("");
-    QTest::newRow("infinite") << std::numeric_limits<float>::infinity();
-    QTest::newRow("minus infinite") << -std::numeric_limits<float>::infinity();
-    QTest::newRow("one") << 1.0F;
-}
-
 void PluginTest::badRatiosChangeNothing()
 {
-    QFETCH(float, ratio);
-    gui().setRatio(ratio);
-    QCOMPARE(gui().getRatio(), 1.0F);
     auto* dialog = get<IErrorMessageDialog>();
     const QRect geometry = window(dialog).geometry();
-    dialog->setRatio(ratio);
-    QCOMPARE(window(dialog).geometry(), geometry);
-    QCOMPARE(child(dialog, "btnCancel").geometry(), QRect(400, 460, 90, 30));
+    const float infinity = std::numeric_limits<float>::infinity();
+    for (const float ratio : {0.0F, -1.5F, std::nanf(""), infinity, -infinity}) {
+        gui().setRatio(ratio);
+        QCOMPARE(gui().getRatio(), 1.0F);
+        dialog->setRatio(ratio);
+        QCOMPARE(window(dialog).geometry(), geometry);
+        QCOMPARE(child(dialog, "btnCancel").geometry(), QRect(400, 460, 90, 30));
+    }
 }
 
 void PluginTest::hugeRatiosStayShowable()
 {
     gui().setRatio(std::numeric_limits<float>::max());
     auto* dialog = show<IErrorMessageDialog>();
-    QVERIFY(qMax(window(dialog).width(), window(dialog).height()) <= 8192);
+    const auto longestSide = [dialog] { return qMax(window(dialog).width(), window(dialog).height()); };
+    QVERIFY(longestSide() <= 8192);
     dialog->setRatio(1.0e30F);
-    QVERIFY(qMax(window(dialog).width(), window(dialog).height()) <= 8192);
-    click(dialog, "btnClose");
-    QCOMPARE(takeEvents(), QStringList{QStringLiteral("evClose")});
+    QVERIFY(longestSide() <= 8192);
+    checkEvents(dialog, QStringLiteral("btnClose"), QStringLiteral("evClose"));
     dialog->setRatio(std::numeric_limits<float>::denorm_min());
     settle();
-}
-
-void PluginTest::deletedByPointer()
-{
-    IErrorMessageDialog* dialog = get<IErrorMessageDialog>();
-    delete dialog;
-    QVERIFY(!gui().deleteErrorMessageDialogInstance());
-    QVERIFY(get<IErrorMessageDialog>()->message().isEmpty());
 }
 
 void PluginTest::dialogsOutliveTheRoot()
 {
     auto* dialog = show<IErrorMessageDialog>();
-    const QPointer<QWidget> guard(&window(dialog));
     delete &gui();
-    QVERIFY(guard && guard->isVisible());
-    click(dialog, "btnCancel");
-    QCOMPARE(takeEvents(), QStringList{QStringLiteral("evClose")});
-    delete guard;
-
+    checkEvents(dialog, QStringLiteral("btnCancel"), QStringLiteral("evClose"));
+    delete &window(dialog);
     // The loader makes a new root object on demand, which knows nothing of the old one's dialogs.
     QVERIFY(!gui().deleteErrorMessageDialogInstance());
     QVERIFY(get<IErrorMessageDialog>());

@@ -63,22 +63,6 @@ void describePlugin(QTextStream& out, const QString& path)
         out << "    exports " << symbol.left(symbol.indexOf(' ')) << '\n';
 }
 
-bool isOwnClass(const QMetaObject& metaObject)
-{
-    const QByteArray name = metaObject.className();
-    return !name.startsWith('Q') || name == "QLabelEx";
-}
-
-QString signature(const QMetaMethod& method)
-{
-    QStringList parameters;
-    for (int i = 0; i < method.parameterCount(); ++i) {
-        const QByteArray parameter = method.parameterTypes().at(i) + ' ' + method.parameterNames().at(i);
-        parameters << QString::fromLatin1(parameter).trimmed();
-    }
-    return QStringLiteral("%1(%2)").arg(QString::fromLatin1(method.name()), parameters.join(QStringLiteral(", ")));
-}
-
 /// Base classes, signals and slots in their order.
 void describeClass(QTextStream& out, const QMetaObject& metaObject)
 {
@@ -88,8 +72,11 @@ void describeClass(QTextStream& out, const QMetaObject& metaObject)
     out << '\n';
     for (int i = metaObject.methodOffset(); i < metaObject.methodCount(); ++i) {
         const QMetaMethod method = metaObject.method(i);
+        QByteArrayList parameters;
+        for (int j = 0; j < method.parameterCount(); ++j)
+            parameters << QByteArray(method.parameterTypes().at(j) + ' ' + method.parameterNames().at(j)).trimmed();
         const bool isSignal = method.methodType() == QMetaMethod::Signal;
-        out << (isSignal ? "    signal " : "    slot ") << signature(method) << '\n';
+        out << (isSignal ? "    signal " : "    slot ") << method.name() << '(' << parameters.join(", ") << ")\n";
     }
 }
 
@@ -103,13 +90,14 @@ void describeChildren(QTextStream& out, const QObject& parent, const QString& in
                      [](const QObject* a, const QObject* b) { return a->objectName() < b->objectName(); });
     for (const QObject* child : qAsConst(children)) {
         const QMetaObject& metaObject = *child->metaObject();
-        const bool isOwn = isOwnClass(metaObject);
+        const QByteArray className = metaObject.className();
+        const bool isOwn = !className.startsWith('Q') || className == "QLabelEx";
         if (isOwn)
-            classes.insert(metaObject.className(), &metaObject);
+            classes.insert(className, &metaObject);
         const QString name = child->objectName();
         const bool isNamed = !name.isEmpty() && !name.startsWith(QLatin1String("qt_"));
         if (child->isWidgetType() && (isNamed || isOwn))
-            out << QStringLiteral("%1%2 %3\n").arg(indent, QLatin1String(metaObject.className()), name);
+            out << indent << className << ' ' << name << '\n';
         describeChildren(out, *child, indent + QStringLiteral("    "), classes);
     }
 }
@@ -119,10 +107,6 @@ void describeDialogs(QTextStream& out, GuiInterface& gui)
     QMap<QByteArray, const QMetaObject*> classes;
     for (const Family& family : dialogFamilies()) {
         IBaseDialog* dialog = family.get(gui, QString());
-        if (!dialog) {
-            out << '\n' << family.name << " is missing\n";
-            continue;
-        }
         if (family.name == QLatin1String("RemoteConnectionDialog"))
             family.operation(QStringLiteral("addRemoteControlSession"))
                 .call(*dialog, {QStringLiteral("id"), QStringLiteral("name"), 0, true});
