@@ -171,16 +171,14 @@ void LookTest::fineScreenPicturesArePicked()
 
 void LookTest::contrast_data()
 {
-    QTest::addColumn<QString>("name");
-    for (const Family& family : dialogFamilies())
-        QTest::newRow(qPrintable(family.name)) << family.name;
+    familyRows();
 }
 
 void LookTest::contrast()
 {
-    QFETCH(QString, name);
-    IBaseDialog* dialog = get(name);
-    showSomethingEverywhere(dialog, dialogFamily(name));
+    QFETCH(QString, family);
+    IBaseDialog* dialog = get(family);
+    showSomethingEverywhere(dialog, dialogFamily(family));
     showActive(dialog);
     // Neither caret nor focus frame are text.
     if (QWidget* focused = window(dialog).focusWidget())

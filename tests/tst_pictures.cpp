@@ -70,19 +70,17 @@ QImage difference(const QImage& picture, const QImage& reference)
 
 void PicturesTest::gallery_data()
 {
-    QTest::addColumn<QString>("script");
-    for (const Family& family : dialogFamilies())
-        QTest::newRow(qPrintable(family.name)) << QStringLiteral(GALLERY "/%1.jsonl").arg(family.name);
+    familyRows();
 }
 
 void PicturesTest::gallery()
 {
-    QFETCH(QString, script);
+    QFETCH(QString, family);
     const QTemporaryDir directory;
     const QDir pictures(directory.path());
     ScriptPlayer player(gui(), ScriptPlayer::Mode::Unattended, pictures);
     QSignalSpy finished(&player, &ScriptPlayer::finished);
-    QFile file(script);
+    QFile file(QStringLiteral(GALLERY "/%1.jsonl").arg(family));
     QVERIFY(file.open(QIODevice::ReadOnly));
     while (!file.atEnd())
         player.addLine(file.readLine());

@@ -36,38 +36,36 @@ void PluginTest::identity()
 
 void PluginTest::families_data()
 {
-    QTest::addColumn<QString>("name");
-    for (const Family& family : dialogFamilies())
-        QTest::newRow(qPrintable(family.name)) << family.name;
+    familyRows();
 }
 
 void PluginTest::families()
 {
-    QFETCH(QString, name);
-    const Family& family = dialogFamily(name);
-    const bool perConnection = name == QLatin1String("ApproveRemoteConnectionDialog");
+    QFETCH(QString, family);
+    const Family& operations = dialogFamily(family);
+    const bool perConnection = family == QLatin1String("ApproveRemoteConnectionDialog");
     const QString id = perConnection ? QStringLiteral("7") : QString();
-    const char* slot = family.receiverSlot.constData();
+    const char* slot = operations.receiverSlot.constData();
     EventReceiver receiver;
 
-    QVERIFY(!family.attach(gui(), &receiver, slot, id));
-    QVERIFY(!family.remove(gui(), id));
+    QVERIFY(!operations.attach(gui(), &receiver, slot, id));
+    QVERIFY(!operations.remove(gui(), id));
 
-    IBaseDialog* first = family.get(gui(), id);
+    IBaseDialog* first = operations.get(gui(), id);
     QVERIFY(first);
     QWidget& top = window(first);
-    QCOMPARE(top.objectName(), name);
+    QCOMPARE(top.objectName(), family);
     QVERIFY(top.qt_metacast("IBaseDialog"));
     QVERIFY(!top.parentWidget() && !top.isVisible());
-    QCOMPARE(top.styleSheet().isEmpty(), name == QLatin1String("RemoteConnectionDialog"));
-    QCOMPARE(family.get(gui(), id) == first, !perConnection);
+    QCOMPARE(top.styleSheet().isEmpty(), family == QLatin1String("RemoteConnectionDialog"));
+    QCOMPARE(operations.get(gui(), id) == first, !perConnection);
 
-    QVERIFY(family.attach(gui(), &receiver, slot, id));
-    QVERIFY(!family.attach(gui(), &receiver, slot, id));
+    QVERIFY(operations.attach(gui(), &receiver, slot, id));
+    QVERIFY(!operations.attach(gui(), &receiver, slot, id));
 
     const QPointer<QWidget> guard(&top);
-    QVERIFY(family.remove(gui(), id));
-    QVERIFY(!family.remove(gui(), id));
+    QVERIFY(operations.remove(gui(), id));
+    QVERIFY(!operations.remove(gui(), id));
     settle();
     // The second prompt of one id took the registry entry over; the first is still the host's to delete.
     QCOMPARE(guard.isNull(), !perConnection);

@@ -4,11 +4,16 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QMetaEnum>
+#include <QPixmapCache>
 #include <QPluginLoader>
 #include <QThread>
 #include <QThreadPool>
 
 #include <utility>
+
+#if defined(__GLIBC__) && (__GLIBC__ > 2 || __GLIBC_MINOR__ >= 33)
+#include <malloc.h>
+#endif
 
 namespace {
 QtMessageHandler previousHandler = nullptr;
@@ -27,6 +32,17 @@ void recordMessage(QtMsgType type, const QMessageLogContext& context, const QStr
         previousHandler(type, context, message);
 }
 } // namespace
+
+size_t memoryInUse()
+{
+    // Qt's own store of pictures has a limit of its own.
+    QPixmapCache::clear();
+#if defined(__GLIBC__) && (__GLIBC__ > 2 || __GLIBC_MINOR__ >= 33)
+    return mallinfo2().uordblks;
+#else
+    return 0;
+#endif
+}
 
 void prepareTestEnvironment()
 {
@@ -152,6 +168,15 @@ void GuiTest::paste(QWidget& field, const QString& text)
     QTest::keyClick(&field, Qt::Key_V, Qt::ControlModifier);
 }
 
+void GuiTest::fillIn(IBaseDialog* dialog)
+{
+    const QList<QWidget*> widgets = window(dialog).findChildren<QWidget*>();
+    for (QWidget* widget : widgets) {
+        if (widget->isEnabled() && (widget->inherits("QLineEdit") || widget->inherits("QTextEdit")))
+            QTest::keyClicks(widget, QStringLiteral("typed"));
+    }
+}
+
 QString GuiTest::tabOrder(IBaseDialog* dialog)
 {
     const QWidget* const start = window(dialog).focusWidget();
@@ -177,6 +202,13 @@ void GuiTest::textRow(std::initializer_list<const char*> texts)
     QTestData& row = QTest::newRow(qPrintable(values.join(QLatin1String(", ")).simplified()));
     for (const QString& value : qAsConst(values))
         row << value;
+}
+
+void GuiTest::familyRows()
+{
+    QTest::addColumn<QString>("family");
+    for (const Family& family : dialogFamilies())
+        QTest::newRow(qPrintable(family.name)) << family.name;
 }
 
 void GuiTest::expectWarning(const QString& pattern)

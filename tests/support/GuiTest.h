@@ -74,12 +74,16 @@ protected:
     /// Fails unless each of the actions, separated by spaces, raises that event (none if empty) and leaves the dialog.
     void checkEvents(IBaseDialog* dialog, const QString& actions, const QString& event);
     static void paste(QWidget& field, const QString& text);
+    /// Types something into each field that takes it.
+    static void fillIn(IBaseDialog* dialog);
     /// The names of the widgets that Tab goes through, from the focused one until it comes back to it.
     static QString tabOrder(IBaseDialog* dialog);
 
     /// Test data that is all text; rows are named by their texts.
     static void textColumns(std::initializer_list<const char*> names);
     static void textRow(std::initializer_list<const char*> texts);
+    /// One row per dialog type, its name in the column "family".
+    static void familyRows();
 
     /// A warning that the next statements may write; every expected one must come.
     void expectWarning(const QString& pattern);
@@ -119,6 +123,9 @@ template <> inline QString GuiTest::familyName(IRemoteConnectionDialog*) { retur
 template <> inline QString GuiTest::familyName(IServiceDeskTicketDialog*) { return QStringLiteral("ServiceDeskTicketDialog"); }
 template <> inline QString GuiTest::familyName(IZentPasswordDialog*) { return QStringLiteral("ZentPasswordDialog"); }
 // clang-format on
+
+/// The bytes that the program has allocated, 0 where nobody knows.
+size_t memoryInUse();
 
 /// What every test program starts with; see GUI_TEST_MAIN.
 void prepareTestEnvironment();
