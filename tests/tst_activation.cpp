@@ -150,7 +150,8 @@ void ActivationTest::pasteShortcut_data()
           "https:///TOKEN", "https://a..b/TOKEN", "https://[::1/TOKEN", "https://mdm.example.com:99999/TOKEN",
           "https://mdm.example.com/\nTOKEN", "https://mdm.example.com/?token=TOKEN",
           "https://mdm.example.com/0123456789012345678901234567890",
-          "https://mdm.example.com/%41234567890123456789012345678901"})
+          "https://mdm.example.com/%41234567890123456789012345678901",
+          "https://mdm.example.com/%25012345678901234567890123456789"})
         textRow({unusable, "", ""});
 }
 

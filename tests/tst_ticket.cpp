@@ -294,6 +294,7 @@ void TicketTest::undoAfterCut()
     details.moveCursor(QTextCursor::Start);
     paste(details, QStringLiteral("abcdef"));
     QCOMPARE(dialog->getIssueDetails(), QStringLiteral("abcdef12"));
+    QVERIFY(details.textCursor().atEnd());
     QTest::keyClick(&details, Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(dialog->getIssueDetails(), QStringLiteral("12345"));
     QTest::keyClick(&details, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
