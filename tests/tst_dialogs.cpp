@@ -1,0 +1,234 @@
+#include "GuiTest.h"
+
+#include <QJsonDocument>
+#include <QMetaEnum>
+#include <QScreen>
+
+/// What each dialog, those of remote sessions aside, reports for clicks, keys, slots and requests to close, where Tab
+/// leads, what it holds at first, and what kind of window it is.
+class DialogsTest : public GuiTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void events_data();
+    void events();
+    void tabOrders_data();
+    void tabOrders();
+    void windows_data();
+    void windows();
+    void firstValues_data();
+    void firstValues();
+    void switches();
+
+private:
+    static void preset(IBaseDialog* dialog, const QString& family, const QString& values);
+};
+
+void DialogsTest::preset(IBaseDialog* dialog, const QString& family, const QString& values)
+{
+    const QJsonObject properties = QJsonDocument::fromJson(values.toUtf8()).object();
+    QCOMPARE(properties.isEmpty(), values.isEmpty());
+    for (auto property = properties.begin(); property != properties.end(); ++property)
+        dialogFamily(family).set(*dialog, property.key(), property.value());
+}
+
+void DialogsTest::events_data()
+{
+    textColumns({"family", "values", "focus", "actions", "event"});
+    const auto add = [](const char* family, const char* actions, const char* event, const char* values = "",
+                        const char* focus = "") {
+        textRow({family, values, focus, actions, event});
+    };
+    add("ErrorMessageDialog", "reject() slClose() close btnCancel btnClose", "evClose");
+    add("ErrorMessageDialog", "Return Enter slInnerButtonClick()", "evTryAgain");
+    add("ErrorMessageDialog", "Escape Space", "");
+    add("ErrorMessageDialog", "Return", "evClose", "", "btnCancel");
+
+    add("AcceptMessageDialog", "slClose() btnCancel btnClose", "evClose");
+    add("AcceptMessageDialog", "Return reject() close btnMessageInnerButton", "evOk");
+    add("AcceptMessageDialog", "Escape", "");
+
+    add("ProgressDialog", "Space Return Enter Escape A accept()", "");
+    add("ProgressDialog", "btnCancel btnClose", "evCancel");
+    add("ProgressDialog", "Space", "evCancel", "", "btnCancel");
+    add("ProgressDialog", "reject() close", "evClose");
+
+    add("RebootDialog", "Return Enter postponeButton", "evPostpone");
+    add("RebootDialog", "Escape R Space", "");
+    add("RebootDialog", "closed()", "evClosed");
+    add("RebootDialog", "rebootNowButton", "evRebootNow");
+    add("RebootDialog", "Return Enter", "evPostpone", "", "rebootNowButton");
+    add("RebootDialog", "Space", "evRebootNow", "", "rebootNowButton");
+    add("RebootDialog", "Escape", "", "", "postponeButton");
+
+    add("AboutDialog", "Return Enter Space accept() reject() close btnOk btnClose", "evClose");
+    add("AboutDialog", "btnUpdateNow", "evUpdateNow");
+    add("AboutDialog", "Return Enter", "evLinkClicked", "", "lblWebSiteLink");
+    add("AboutDialog", "Escape", "");
+
+    add("AuthorizationDialog", "reject() slClose() close btnCancel btnClose", "evClose");
+    add("AuthorizationDialog", "Return Enter accept() slLogin() btnLogin Escape", "");
+    add("AuthorizationDialog", "Return Enter accept() slLogin() btnLogin", "evLogin", R"({"password": " "})");
+    add("AuthorizationDialog", "goToWeb() lblWebLink", "evGoToWeb");
+    add("AuthorizationDialog", "Return Enter", "evGoToWeb", R"({"password": "x"})", "lblWebLink");
+
+    add("ActivationDialog", "reject() slClose() close btnCancel btnClose", "evClose");
+    add("ActivationDialog", "Return Enter accept() slActivate()", "evEnroll");
+    add("ActivationDialog", "Escape toggleStep() btnActivateNow", "", R"({"serverUrl": "https://mdm.example.com"})");
+    add("ActivationDialog", "btnActivateNow", "evEnroll", R"({"token": " "})");
+    add("ActivationDialog", "goToRegistration()", "evGoToRegistration");
+
+    add("ZentPasswordDialog", "reject() slClose() close btnCancel", "evClose");
+    add("ZentPasswordDialog", "Return Enter accept() slContinue() btnContinue Escape", "");
+    add("ZentPasswordDialog", "Return Enter accept() slContinue() btnContinue", "evContinue", R"({"password": " "})");
+
+    add("EnterPasswordDialog", "Return Enter accept() onOkClicked() buttonOk", "evOk");
+    add("EnterPasswordDialog", "onCancelClicked() buttonCancel", "evCancel");
+    add("EnterPasswordDialog", "onCloseClicked()", "evCloseClicked");
+    add("EnterPasswordDialog", "Escape", "");
+
+    add("OptionDialog", "reject() close btnClose btnCancel", "evClose");
+    add("OptionDialog", "slDeactivateAccount()", "evDeactivate");
+    add("OptionDialog", "Return accept() btnSave", "evSave");
+    add("OptionDialog", "Escape", "");
+    add("OptionDialog", "btnSave", "evSave", R"({"proxyAuthEnabled": true})");
+    add("OptionDialog", "btnSave", "", R"({"proxyEnabled": true})");
+    add("OptionDialog", "btnSave", "evSave", R"({"proxyEnabled": true, "proxyAddress": " "})");
+    add("OptionDialog", "btnSave", "", R"({"proxyEnabled": true, "proxyAuthEnabled": true, "proxyLogin": "anna"})");
+    add("OptionDialog", "btnSave", "", R"({"proxyEnabled": true, "proxyAuthEnabled": true, "proxyAddress": "p"})");
+    add("OptionDialog", "btnSave", "evSave",
+        R"({"proxyEnabled": true, "proxyAuthEnabled": true, "proxyAddress": "p", "proxyLogin": " "})");
+    // The key saves even what is incomplete, unless a button has the focus.
+    for (const char* focus : {"edtAdress", "spnbxPort", "chkShowIcon", "proxyGroupBox"})
+        add("OptionDialog", "Return", "evSave", R"({"proxyEnabled": true})", focus);
+    add("OptionDialog", "Enter", "evClose", "", "btnCancel");
+
+    add("ServiceDeskTicketDialog", "Escape reject() slClose() close bnCancel btnClose", "evCancel");
+    add("ServiceDeskTicketDialog", "bnSubmit", "", R"({"subject": "s"})");
+    add("ServiceDeskTicketDialog", "bnSubmit", "evSubmit", R"({"subject": " ", "issueDetails": "d"})");
+}
+
+void DialogsTest::events()
+{
+    QFETCH(QString, family);
+    QFETCH(QString, values);
+    QFETCH(QString, focus);
+    QFETCH(QString, actions);
+    QFETCH(QString, event);
+    IBaseDialog* dialog = get(family);
+    preset(dialog, family, values);
+    showActive(dialog);
+    if (!focus.isEmpty())
+        child(dialog, qPrintable(focus)).setFocus();
+    checkEvents(dialog, actions, event);
+}
+
+void DialogsTest::tabOrders_data()
+{
+    textColumns({"family", "values", "order"});
+    textRow({"RebootDialog", "", "timeoutComboBox rebootNowButton postponeButton"});
+    textRow({"AboutDialog", "", "btnOk lblWebSiteLink btnUpdateNow"});
+    textRow({"AuthorizationDialog", R"({"password": "x"})", "edEmail edPassword btnLogin btnCancel lblWebLink"});
+    textRow({"ActivationDialog", R"({"token": "x"})", "edHost edPort edToken btnActivateNow btnCancel"});
+    textRow({"ZentPasswordDialog", R"({"password": "x"})", "edPassword btnContinue btnCancel"});
+    textRow({"EnterPasswordDialog", "",
+             "editDomain editLogin editAdministratorPassword radioButtonZentModeAccess editZentPassword buttonOk "
+             "buttonCancel"});
+    textRow({"OptionDialog",
+             R"({"proxyEnabled": true, "proxyAuthEnabled": true, "proxyAddress": "p", "proxyLogin": "anna"})",
+             "chkShowIcon chkAutoUpdate proxyGroupBox edtAdress spnbxPort proxyAuthGroupBox edtProxyLogin "
+             "edtProxyPassword btnSave btnCancel"});
+    textRow({"ServiceDeskTicketDialog", R"({"subject": "s", "issueDetails": "d"})",
+             "edSubject cbDepartment cbPriorityLevel txIssueDetails ckIncludeDeviceData bnSubmit bnCancel"});
+}
+
+void DialogsTest::tabOrders()
+{
+    QFETCH(QString, family);
+    QFETCH(QString, values);
+    IBaseDialog* dialog = get(family);
+    preset(dialog, family, values);
+    showActive(dialog);
+    QTEST(tabOrder(dialog), "order");
+}
+
+void DialogsTest::windows_data()
+{
+    textColumns({"family", "title", "modality", "onTop"});
+    textRow({"AcceptMessageDialog", " Tavik ", "NonModal", "yes"});
+    textRow({"ProgressDialog", " Tavik ", "NonModal", "no"});
+    textRow({"RebootDialog", "Tavik Reboot", "ApplicationModal", "yes"});
+    textRow({"AboutDialog", " Tavik About", "NonModal", "no"});
+    textRow({"AuthorizationDialog", " Tavik Login", "WindowModal", "yes"});
+    textRow({"ActivationDialog", " Tavik Enroll", "NonModal", "no"});
+    textRow({"ZentPasswordDialog", " Tavik Enter password", "ApplicationModal", "no"});
+    textRow({"EnterPasswordDialog", " Tavik Enter password", "ApplicationModal", "no"});
+    textRow({"OptionDialog", " Tavik Options", "ApplicationModal", "no"});
+    textRow({"ServiceDeskTicketDialog", " Tavik Submit ticket", "NonModal", "yes"});
+}
+
+void DialogsTest::windows()
+{
+    QFETCH(QString, family);
+    QFETCH(QString, onTop);
+    const QWidget& top = window(get(family));
+    QTEST(top.windowTitle(), "title");
+    const auto modalities = QMetaEnum::fromType<Qt::WindowModality>();
+    QTEST(QString::fromLatin1(modalities.valueToKey(top.windowModality())), "modality");
+    Qt::WindowFlags flags = Qt::Window | Qt::FramelessWindowHint;
+    QCOMPARE(top.windowFlags(), flags.setFlag(Qt::WindowStaysOnTopHint, onTop == QLatin1String("yes")));
+    const QPoint center = QGuiApplication::primaryScreen()->availableGeometry().center();
+    QVERIFY((top.frameGeometry().center() - center).manhattanLength() <= 2);
+}
+
+void DialogsTest::firstValues_data()
+{
+    textColumns({"family", "values"});
+    textRow({"ErrorMessageDialog", R"({"message":""})"});
+    textRow({"AcceptMessageDialog", R"({"message":""})"});
+    textRow({"ProgressDialog", R"({"message":"","progress":0})"});
+    textRow({"RebootDialog", R"({"message":"","postponePeriod":0,"shutdown":false})"});
+    textRow({"AboutDialog", R"({"lastCommunicationTime":"n/a","server":"n/a","version":""})"});
+    textRow({"OptionDialog",
+             R"({"autoUpdate":false,"proxyAddress":"","proxyAuthEnabled":false,"proxyEnabled":false,)"
+             R"("proxyLogin":"","proxyPassword":"","proxyPort":1,"showTrayIcon":false})"});
+    textRow({"ServiceDeskTicketDialog",
+             R"({"department":"","departmentIndex":-1,"includeDeviceData":false,"issueDetails":"",)"
+             R"("issueDetailsMaxLength":0,"priority":"","priorityIndex":-1,"subject":"","subjectMaxLength":32767})"});
+}
+
+void DialogsTest::firstValues()
+{
+    QFETCH(QString, family);
+    QJsonObject values = dialogFamily(family).values(*get(family));
+    // It names the year in which the library was built.
+    values.remove(QStringLiteral("copyright"));
+    QTEST(QString::fromUtf8(QJsonDocument(values).toJson(QJsonDocument::Compact)), "values");
+}
+
+void DialogsTest::switches()
+{
+    int count = 0;
+    for (const Family& family : dialogFamilies()) {
+        // It tells which sessions run.
+        if (family.name == QLatin1String("RemoteConnectionDialog"))
+            continue;
+        IBaseDialog* dialog = get(family.name);
+        const QJsonObject before = family.values(*dialog);
+        for (const QString& property : before.keys()) {
+            if (!before[property].isBool())
+                continue;
+            ++count;
+            QJsonObject after = before;
+            after[property] = !before[property].toBool();
+            family.set(*dialog, property, after[property]);
+            QCOMPARE(family.values(*dialog), after);
+            family.set(*dialog, property, before[property]);
+            QCOMPARE(family.values(*dialog), before);
+        }
+    }
+    QVERIFY(count >= 7);
+}
+
+GUI_TEST_MAIN(DialogsTest)
+#include "tst_dialogs.moc"
