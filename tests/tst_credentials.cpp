@@ -3,6 +3,7 @@
 #include <QClipboard>
 #include <QLabel>
 #include <QLineEdit>
+#include <QRadioButton>
 
 #include <limits>
 
@@ -26,6 +27,7 @@ private Q_SLOTS:
     void accessModes();
     void firstFieldIsOfTheChosenWay();
     void accessModeMovesTheChoice();
+    void choosingByClickAndKey();
     void attachments();
 };
 
@@ -191,6 +193,20 @@ void CredentialsTest::accessModeMovesTheChoice()
             QCOMPARE(dialog->isCustomPasswordSelected(), selected || mode == 1);
         }
     }
+}
+
+void CredentialsTest::choosingByClickAndKey()
+{
+    auto* dialog = show<IEnterPasswordDialog>();
+    auto& administrator = child<QRadioButton>(dialog, "radioButtonComputerAdministrator");
+    auto& custom = child<QRadioButton>(dialog, "radioButtonZentModeAccess");
+    QTest::mouseClick(&custom, Qt::LeftButton, Qt::NoModifier, QPoint(8, 8));
+    QVERIFY(custom.isChecked() && !administrator.isChecked());
+    QTest::keyClick(&custom, Qt::Key_Up);
+    QVERIFY(administrator.isChecked() && administrator.hasFocus() && !dialog->isCustomPasswordSelected());
+    QTest::keyClick(&administrator, Qt::Key_Down);
+    QVERIFY(custom.isChecked() && custom.hasFocus() && dialog->isCustomPasswordSelected());
+    checkEvents(dialog, QStringLiteral("Return"), QStringLiteral("evOk"));
 }
 
 void CredentialsTest::attachments()

