@@ -12,6 +12,8 @@ class DialogsTest : public GuiTest {
 private Q_SLOTS:
     void events_data();
     void events();
+    void shownAgain_data();
+    void shownAgain();
     void tabOrders_data();
     void tabOrders();
     void windows_data();
@@ -121,6 +123,28 @@ void DialogsTest::events()
     if (!focus.isEmpty())
         child(dialog, qPrintable(focus)).setFocus();
     checkEvents(dialog, actions, event);
+}
+
+void DialogsTest::shownAgain_data()
+{
+    textColumns({"family", "event"});
+    textRow({"ErrorMessageDialog", "evTryAgain"});
+    textRow({"ProgressDialog", ""});
+}
+
+void DialogsTest::shownAgain()
+{
+    QFETCH(QString, family);
+    QFETCH(QString, event);
+    IBaseDialog* dialog = get(family);
+    showActive(dialog);
+    // A dialog is kept and shown for the next occasion. What the person did last time is no answer this time.
+    click(dialog, "btnCancel");
+    takeEvents();
+    dialog->hide();
+    showActive(dialog);
+    checkEvents(dialog, QStringLiteral("Return"), event);
+    checkEvents(dialog, QStringLiteral("Space"), QString());
 }
 
 void DialogsTest::tabOrders_data()

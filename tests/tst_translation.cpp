@@ -34,7 +34,7 @@ void TranslationTest::cleanup()
 void TranslationTest::desktopLanguage_data()
 {
     textColumns({"LANGUAGE", "LC_ALL", "LC_MESSAGES", "LANG", "language"});
-    textRow({"fr_CA:de:en", "it_IT", "", "", "fr"});
+    textRow({"fr-CA:de:en", "it_IT", "", "", "fr"});
     textRow({"", "de_DE.UTF-8", "it_IT", "", "de"});
     textRow({"", "", "ja_JP.eucJP", "nl", "ja"});
     textRow({"", "", "", "pt@euro", "pt"});

@@ -15,8 +15,6 @@ ErrorMessageDialog::ErrorMessageDialog(const QString& message, QWidget*) : ui(ne
     connect(ui->btnClose, &QPushButton::clicked, this, &ErrorMessageDialog::slClose);
 
     setWindowFlag(Qt::WindowStaysOnTopHint);
-    // Return means "try again" on a fresh dialog. A focused Cancel, its only button, would take the key for itself.
-    setFocus();
 }
 
 ErrorMessageDialog::~ErrorMessageDialog() = default;
@@ -49,4 +47,11 @@ void ErrorMessageDialog::accept()
 void ErrorMessageDialog::reject()
 {
     Q_EMIT dialogEvent(this, evClose);
+}
+
+void ErrorMessageDialog::showEvent(QShowEvent* event)
+{
+    // Return means "try again". A focused Cancel, whether clicked the last time or the only button, would take the key.
+    setFocus();
+    BaseDialog::showEvent(event);
 }

@@ -31,6 +31,9 @@ public Q_SLOTS:
     void accept() override;
     void reject() override;
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     const std::unique_ptr<Ui::ErrorMessageDialog> ui;
 };

@@ -44,9 +44,6 @@ ProgressDialog::ProgressDialog(QWidget* parent)
     connect(animationTimer, &QTimer::timeout, this, &ProgressDialog::updateProgressAnimation);
     animationTimer->start(frameMsecs);
     connect(waiterTimer, &QTimer::timeout, this, &ProgressDialog::slWaiterTimer);
-
-    // Whoever is typing when the dialog appears must not cancel the work: a focused Cancel would take Return and Space.
-    setFocus();
 }
 
 ProgressDialog::~ProgressDialog() = default;
@@ -122,14 +119,16 @@ void ProgressDialog::slWaiterTimer()
     if (!timer)
         return;
     const int value = timer->property(waiterValue).toInt();
-    const int nextValue = value + waiterStep;
-    timer->setProperty(waiterValue, nextValue);
-    if (nextValue > 100)
-        timer->stop();
-
     setProgress(static_cast<unsigned int>(value), 100);
-    if (nextValue > 100)
+    if (timer->property(waiterValue).toInt() != value)
+        return; // Started over by whom the progress was told.
+    const int nextValue = value + waiterStep;
+    if (nextValue > 100) {
+        timer->stop();
         Q_EMIT sigWaiterComplete();
+    } else {
+        timer->setProperty(waiterValue, nextValue);
+    }
 }
 
 void ProgressDialog::accept() { }
@@ -137,6 +136,13 @@ void ProgressDialog::accept() { }
 void ProgressDialog::reject()
 {
     slClose();
+}
+
+void ProgressDialog::showEvent(QShowEvent* event)
+{
+    // Whoever is typing when the dialog appears must not cancel the work: a focused Cancel would take Return and Space.
+    setFocus();
+    BaseDialog::showEvent(event);
 }
 
 std::shared_ptr<ProgressDialog::FramePictures> ProgressDialog::sharedFramePictures()

@@ -21,7 +21,7 @@ public:
     /// The plain text of the reason shown, empty at first.
     virtual QString getMessage() const = 0;
     /// Sets the reason. The only text of this dialog in which rich text is interpreted: escape whatever in it comes
-    /// from outside the host (`QString::toHtmlEscaped()`).
+    /// from outside the host (`QString::toHtmlEscaped()`). Beyond 16384 characters it is shown as plain text.
     virtual void setMessage(const QString& text) = 0;
 
     /// The period chosen: 0 = 10 minutes (the default), 1 = 30 minutes, 2 = 1 hour, 3 = 4 hours.

@@ -11,6 +11,9 @@
 #include <QTextDocument>
 
 namespace {
+/// The periods that hosts know; the form's list holds their texts.
+constexpr int periodCount = 4;
+
 // Qt takes quadratic time for nested markup, and a reason that people read is far shorter than this.
 constexpr int longestRichText = 1 << 14;
 
@@ -71,12 +74,13 @@ void RebootDialog::setMessage(const QString& text)
 
 int RebootDialog::getPostponePeriod() const
 {
-    return qMax(ui->timeoutComboBox->currentIndex(), 0);
+    const int index = ui->timeoutComboBox->currentIndex();
+    return index >= 0 && index < periodCount ? index : 0;
 }
 
 void RebootDialog::setPostponePeriod(int period)
 {
-    const bool known = period >= 0 && period < ui->timeoutComboBox->count();
+    const bool known = period >= 0 && period < periodCount;
     ui->timeoutComboBox->setCurrentIndex(known ? period : 0);
 }
 

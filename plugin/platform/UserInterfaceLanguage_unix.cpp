@@ -18,6 +18,6 @@ std::string userInterfaceLanguage()
         if (locale.empty())
             locale = environmentValue(name);
     }
-    const std::string language = locale.substr(0, locale.find_first_of("_.@"));
+    const std::string language = locale.substr(0, locale.find_first_of("_-.@"));
     return language == "C" || language == "POSIX" ? std::string() : language;
 }
