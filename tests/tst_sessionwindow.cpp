@@ -394,8 +394,15 @@ void SessionWindowTest::keepsItsCorner()
     const int oneHigh = top.height();
     addControl(session, b);
     startTools(session, a);
-    child<QCheckBox>(session, "fileTransferInfoPanelCheckBox").click();
     settle();
+    auto& expander = child<QCheckBox>(session, "fileTransferInfoPanelCheckBox");
+    const int withoutLog = top.height();
+    for (const bool withLog : {true, false, true}) {
+        expander.click();
+        settle();
+        QCOMPARE(top.height() > withoutLog, withLog);
+        QCOMPARE(corner(session), screenCorner());
+    }
     QCOMPARE(top.width(), static_cast<int>(570 * ratio));
     QVERIFY(top.height() > oneHigh + 141 * ratio);
     for (const QWidget* strip : panels(session))
@@ -464,7 +471,10 @@ void SessionWindowTest::reactsFromInside()
     settle();
     QVERIFY(!takeEvents().isEmpty());
     QCOMPARE(guard.isNull(), reaction == QLatin1String("delete"));
-    QCOMPARE(guard && guard->isVisible(), reaction == QLatin1String("restart all"));
+    const bool restarted = reaction == QLatin1String("restart all");
+    QCOMPARE(guard && guard->isVisible(), restarted);
+    for (const char* end : {"btnEndRemoteControlSession", "btnEndRemoteToolsSession"})
+        QVERIFY(!restarted || child(session, end).isVisible());
 }
 
 GUI_TEST_MAIN(SessionWindowTest)

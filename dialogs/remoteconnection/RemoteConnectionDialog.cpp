@@ -93,14 +93,16 @@ void RemoteConnectionDialog::endRemoteControlSession(const QString& sessionId)
     // The text may belong to something that the event handlers delete.
     const QString id = sessionId;
     const QPointer<RemoteConnectionDialog> self(this);
-    const bool known = panels.contains(id);
-    if (!keepPanels)
+    TakeoverPanel* const panel = panels.value(id);
+    const bool keep = keepPanels;
+    if (!keep)
         removePanel(id);
     if (!self)
         return;
-    if (known)
+    // Another panel of that name, if the host has started the session anew when it heard of the removal, is not ended.
+    if (panel && panels.value(id, panel) == panel)
         setToolsCloseEnabled(true);
-    if (TakeoverPanel* const panel = panels.value(id)) {
+    if (panel && keep) {
         panel->setEndButtonVisible(false);
         panel->setCloseButtonVisible(true);
         panel->setStartTime(QDateTime(), true);
@@ -142,16 +144,15 @@ void RemoteConnectionDialog::endRemoteToolsSession(const QString& sessionId)
 {
     const QString id = sessionId;
     const QPointer<RemoteConnectionDialog> self(this);
+    // It ends first: when the host hears that the area has closed, it may start the next session.
+    const bool wasRunning = isToolsSessionRunning();
+    toolsStartTime = QDateTime();
+    showToolsButtons(false, true);
+    updateClockTimer();
     if (!keepToolsPopup)
         closeToolsPopup();
-    if (!self)
-        return;
-    showToolsButtons(false, true);
-    if (!isToolsSessionRunning())
-        return;
-    toolsStartTime = QDateTime();
-    updateClockTimer();
-    Q_EMIT dialogEvent(this, evRemoteToolsSessionEnded, id);
+    if (self && wasRunning)
+        Q_EMIT dialogEvent(this, evRemoteToolsSessionEnded, id);
 }
 
 bool RemoteConnectionDialog::isRemoteToolsPopupShown() const
@@ -378,6 +379,8 @@ void RemoteConnectionDialog::setPartVisible(QWidget* part, bool visible)
 void RemoteConnectionDialog::fitSize()
 {
     ensurePolished();
+    // The window's layout hears only with the next turn what has changed in the layout of a part.
+    ui->fileTransportPanel->layout()->activate();
     layout()->activate();
     resize(layout()->sizeHint());
 }
