@@ -282,6 +282,9 @@ void ActivationTest::pastedInvisiblesAreDropped()
         check(name, QStringLiteral("12|34"), "a\nb", "12ab|34");
         check(name, QStringLiteral("12|34"), "\n\u200b", "12|34");
         check(name, QStringLiteral("|"), " c d ", " c d |");
+        // There is no link in two lines, so none may come of them.
+        check(name, QStringLiteral("|"), "https://intranet.example/\n0123456789abcdef0123456789abcdef",
+              "https://intranet.example/0123456789abcdef0123456789abcdef|");
     }
 }
 

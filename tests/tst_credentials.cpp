@@ -175,6 +175,11 @@ void CredentialsTest::firstFieldIsOfTheChosenWay()
         }
     }
     QCOMPARE(takeEvents(), QStringList());
+    // The choice stays with the other way, which cannot be typed into any more.
+    dialog->setAccessMode(0);
+    QVERIFY(dialog->isCustomPasswordSelected());
+    showActive(dialog);
+    QCOMPARE(window(dialog).focusWidget(), &child(dialog, "editDomain"));
 }
 
 void CredentialsTest::accessModeMovesTheChoice()

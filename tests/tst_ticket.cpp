@@ -230,6 +230,8 @@ void TicketTest::limits_data()
     textRow({"edSubject", "", "abcd\U0001F600", "abcd"});
     textRow({"edSubject", "abcd", "\U0001F600", "abcd"});
     textRow({"txIssueDetails", "", "a\nb\n\nc\nd", "a\nb\n\n"});
+    textRow({"txIssueDetails", "", "abcd\n\n\n", "abcd\n"});
+    textRow({"txIssueDetails", "", "a\r\nb\r\nc\r\nd", "a\nb\nc"});
     textRow({"txIssueDetails", "", "abc\U0001F600abcd", "abc\U0001F600"});
     textRow({"txIssueDetails", "", "abcd\U0001F600", "abcd"});
     textRow({"txIssueDetails", "", "abcde\u0301", "abcd"});
@@ -309,6 +311,10 @@ void TicketTest::markupIsPastedAsText()
     html->setText(QStringLiteral("heading"));
     QGuiApplication::clipboard()->setMimeData(html);
     auto& details = child<QTextEdit>(dialog, "txIssueDetails");
+    // Breaking long words as well would take minutes for a megabyte.
+    dialog->setIssueDetails(QStringLiteral("a"));
+    QCOMPARE(details.wordWrapMode(), QTextOption::WordWrap);
+    dialog->setIssueDetails(QString());
     QTest::keyClick(&details, Qt::Key_V, Qt::ControlModifier);
     QCOMPARE(dialog->getIssueDetails(), QStringLiteral("heading"));
     QCOMPARE(details.textCursor().blockFormat().headingLevel(), 0);

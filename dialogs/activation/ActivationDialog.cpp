@@ -5,6 +5,7 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QScopedValueRollback>
 #include <QShortcut>
 #include <QUrl>
 
@@ -159,6 +160,8 @@ void ActivationDialog::watchInsertions(QLineEdit* edit)
 
 void ActivationDialog::takeInsertion(QLineEdit* edit, int start)
 {
+    if (droppingInvisibles)
+        return;
     const QString inserted = edit->text().mid(start, qMax(0, edit->cursorPosition() - start));
     if (const auto link = findEnrollmentLink(inserted)) {
         fill(*link);
@@ -166,6 +169,8 @@ void ActivationDialog::takeInsertion(QLineEdit* edit, int start)
     }
     const QString visible = withoutInvisibles(inserted);
     if (visible != inserted) {
+        // What is left is no insertion of the person's: a link that comes of it was not there.
+        const QScopedValueRollback<bool> dropping(droppingInvisibles, true);
         edit->setSelection(start, inserted.size());
         edit->insert(visible);
     }

@@ -45,4 +45,5 @@ private:
     void fill(const EnrollmentLink& link);
 
     const std::unique_ptr<Ui::ActivationDialog> ui;
+    bool droppingInvisibles = false;
 };

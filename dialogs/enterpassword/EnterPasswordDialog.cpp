@@ -127,9 +127,12 @@ void EnterPasswordDialog::accept()
 
 void EnterPasswordDialog::showEvent(QShowEvent* event)
 {
-    // Which field is the first one to type into depends on what the host has set meanwhile.
-    if (!event->spontaneous())
-        (isCustomPasswordSelected() ? ui->editZentPassword : ui->editDomain)->setFocus();
+    // Which field is the first one to type into depends on what the host has set meanwhile. The choice may have stayed
+    // with a way that is not offered any more.
+    if (!event->spontaneous()) {
+        const bool custom = isCustomPasswordSelected() && ui->editZentPassword->isEnabled();
+        (custom ? ui->editZentPassword : ui->editDomain)->setFocus();
+    }
     BaseDialog::showEvent(event);
 }
 

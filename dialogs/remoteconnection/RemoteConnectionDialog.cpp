@@ -379,8 +379,8 @@ void RemoteConnectionDialog::setPartVisible(QWidget* part, bool visible)
 void RemoteConnectionDialog::fitSize()
 {
     ensurePolished();
-    // The window's layout hears only with the next turn what has changed in the layout of a part.
-    ui->fileTransportPanel->layout()->activate();
+    // The window's layout hears by itself only with the next turn what has changed inside a part.
+    ui->fileTransportPanel->updateGeometry();
     layout()->activate();
     resize(layout()->sizeHint());
 }

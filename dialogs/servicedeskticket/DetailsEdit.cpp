@@ -9,7 +9,8 @@ void DetailsEdit::setInsertionLimit(int length)
 
 void DetailsEdit::insertFromMimeData(const QMimeData* source)
 {
-    const QString text = source->text();
+    // The document has one character for a line's end.
+    const QString text = source->text().replace(QLatin1String("\r\n"), QLatin1String("\n"));
     if (insertionLimit <= 0 || text.size() <= insertionLimit) {
         QTextEdit::insertFromMimeData(source);
         return;

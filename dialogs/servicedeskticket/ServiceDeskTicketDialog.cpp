@@ -52,7 +52,8 @@ int characterBoundary(QTextDocument* document, int limit)
 {
     QTextCursor cursor(document);
     cursor.setPosition(limit);
-    if (!cursor.block().layout()->isValidCursorPosition(cursor.positionInBlock()))
+    // An empty line has no layout that could say so.
+    if (!cursor.atBlockStart() && !cursor.block().layout()->isValidCursorPosition(cursor.positionInBlock()))
         cursor.movePosition(QTextCursor::PreviousCharacter);
     return cursor.position();
 }
@@ -158,7 +159,7 @@ QString ServiceDeskTicketDialog::getIssueDetails() const
 void ServiceDeskTicketDialog::setIssueDetails(const QString& details)
 {
     const QScopedValueRollback<bool> notAnEdit(changed);
-    showPlainText(ui->txIssueDetails, details);
+    ui->txIssueDetails->setPlainText(details);
 }
 
 bool ServiceDeskTicketDialog::isIncludeDeviceData() const
