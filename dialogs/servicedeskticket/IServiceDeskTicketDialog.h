@@ -49,11 +49,13 @@ public:
 
     /// The longest subject in UTF-16 units; 32767, the line edit's own maximum, while no limit is set.
     virtual int getSubjectMaxLength() const = 0;
-    /// Limits the subject and names the limit in the empty field. 0 or a negative number lifts the limit.
+    /// Limits the subject and names the limit in the empty field. 0 or a negative number lifts the limit. A subject that
+    /// is longer already is cut at once.
     virtual void setSubjectMaxLength(int length) = 0;
 
     /// The longest description in UTF-16 units as it was set; 0 at first, which means no limit.
     virtual int getIssueDetailsMaxLength() const = 0;
-    /// Limits the description and names the limit in the empty field. 0 or a negative number lifts the limit.
+    /// Limits the description and names the limit in the empty field. 0 or a negative number lifts the limit. A
+    /// description that is longer already stays, cannot be submitted, and is cut with the next edit.
     virtual void setIssueDetailsMaxLength(int length) = 0;
 };
