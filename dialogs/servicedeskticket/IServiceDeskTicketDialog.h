@@ -49,8 +49,8 @@ public:
 
     /// The longest subject in UTF-16 units; 32767, the line edit's own maximum, while no limit is set.
     virtual int getSubjectMaxLength() const = 0;
-    /// Limits the subject and names the limit in the empty field. 0 or a negative number lifts the limit. A subject that
-    /// is longer already is cut at once.
+    /// Limits the subject and names the limit in the empty field. 0 or a negative number lifts the limit. A subject
+    /// that is longer already is cut at once.
     virtual void setSubjectMaxLength(int length) = 0;
 
     /// The longest description in UTF-16 units as it was set; 0 at first, which means no limit.
