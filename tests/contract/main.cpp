@@ -3,11 +3,14 @@
 #include "GuiTest.h"
 #include "IBaseDialog.h"
 
-#include <QDir>
+#include <QDebug>
+#include <QDirIterator>
+#include <QImage>
 #include <QJsonDocument>
 #include <QMetaMethod>
 #include <QPluginLoader>
 #include <QProcess>
+#include <QScreen>
 #include <QTextStream>
 
 #include <algorithm>
@@ -61,6 +64,39 @@ void describePlugin(QTextStream& out, const QString& path)
         qFatal("cannot list the symbols of %s", qPrintable(path));
     for (const QByteArray& symbol : nm.readAllStandardOutput().trimmed().split('\n'))
         out << "    exports " << symbol.left(symbol.indexOf(' ')) << '\n';
+
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("cannot read %s", qPrintable(path));
+    QStringList needed;
+    const QRegularExpression library(QStringLiteral(R"(lib(Qt\w+)\.so)"));
+    for (auto matches = library.globalMatch(QString::fromLatin1(file.readAll())); matches.hasNext();)
+        needed << matches.next().captured(1);
+    needed.removeDuplicates();
+    needed.sort();
+    for (const QString& name : qAsConst(needed))
+        out << "    needs " << name << '\n';
+}
+
+/// The files inside the library: pictures with their sizes, the style sheet with its line ends.
+void describeResources(QTextStream& out)
+{
+    out << "\nresources\n";
+    QStringList names;
+    for (QDirIterator files(QStringLiteral(":/"), QDir::Files, QDirIterator::Subdirectories); files.hasNext();)
+        names << files.next();
+    names.sort();
+    // Qt's own.
+    for (const QString& name : names.filter(QRegularExpression(QStringLiteral("^:/(?!qt-project.org)")))) {
+        const QSize size = QImage(name).size();
+        out << "    " << name;
+        if (!size.isEmpty())
+            out << ' ' << size.width() << 'x' << size.height();
+        QFile file(name);
+        if (name.endsWith(QLatin1String(".qss")) && file.open(QIODevice::ReadOnly))
+            out << (file.readAll().contains("\r\n") ? " CRLF" : " LF");
+        out << '\n';
+    }
 }
 
 /// Base classes, signals and slots in their order.
@@ -102,17 +138,33 @@ void describeChildren(QTextStream& out, const QObject& parent, const QString& in
     }
 }
 
+/// What the window of a dialog is before the host has set anything.
+void describeWindow(QTextStream& out, const QWidget& window, const QJsonObject& values)
+{
+    QString flags;
+    QDebug(&flags) << window.windowFlags() << window.windowModality();
+    const QPoint center = QGuiApplication::primaryScreen()->availableGeometry().center();
+    const bool isCentered = (window.frameGeometry().center() - center).manhattanLength() <= 2;
+    // The copyright names the year in which the library was built.
+    QString first = QString::fromUtf8(QJsonDocument(values).toJson(QJsonDocument::Compact));
+    first.replace(QRegularExpression(QStringLiteral("\\b20\\d\\d\\b")), QStringLiteral("YEAR"));
+    out << "    title \"" << window.windowTitle() << "\"\n    window " << flags
+        << (isCentered ? "centered" : "not centered") << "\n    values " << first << '\n';
+}
+
 void describeDialogs(QTextStream& out, GuiInterface& gui)
 {
     QMap<QByteArray, const QMetaObject*> classes;
     for (const Family& family : dialogFamilies()) {
         IBaseDialog* dialog = family.get(gui, QString());
+        const QJsonObject values = family.values(*dialog);
         if (family.name == QLatin1String("RemoteConnectionDialog"))
             family.operation(QStringLiteral("addRemoteControlSession"))
                 .call(*dialog, {QStringLiteral("id"), QStringLiteral("name"), 0, true});
-        const auto& object = dynamic_cast<const QObject&>(*dialog);
-        describeClass(out, *object.metaObject());
-        describeChildren(out, object, QStringLiteral("    "), classes);
+        const auto& window = dynamic_cast<const QWidget&>(*dialog);
+        describeClass(out, *window.metaObject());
+        describeWindow(out, window, values);
+        describeChildren(out, window, QStringLiteral("    "), classes);
     }
     for (const QMetaObject* metaObject : qAsConst(classes))
         describeClass(out, *metaObject);
@@ -133,6 +185,7 @@ int main(int argc, char** argv)
 
     QTextStream out(&file);
     describePlugin(out, arguments.at(1));
+    describeResources(out);
     const QDir headers(arguments.at(2));
     for (const QString& name : headers.entryList({QStringLiteral("*.h")}, QDir::Files, QDir::Name))
         describeHeader(out, headers.filePath(name));

@@ -51,7 +51,8 @@ void prepareTestEnvironment()
     setDefault("QT_QPA_PLATFORM", "offscreen");
     // The resolution to which the dialogs' fixed geometry belongs; the offscreen platform has another one.
     setDefault("QT_FONT_DPI", "96");
-    qputenv("LANGUAGE", "en");
+    setDefault("GUI_TEST_LANGUAGE", "en");
+    qputenv("LANGUAGE", qgetenv("GUI_TEST_LANGUAGE"));
 }
 
 int runTest(QObject& test, int argc, char** argv)
