@@ -66,16 +66,14 @@ void describePlugin(QTextStream& out, const QString& path)
         out << "    exports " << symbol.left(symbol.indexOf(' ')) << '\n';
 
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("cannot read %s", qPrintable(path));
-    QStringList needed;
+    const QByteArray code = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    QSet<QString> needed;
     const QRegularExpression library(QStringLiteral(R"(lib(Qt\w+)\.so)"));
-    for (auto matches = library.globalMatch(QString::fromLatin1(file.readAll())); matches.hasNext();)
+    for (auto matches = library.globalMatch(QString::fromLatin1(code.constData(), code.size())); matches.hasNext();)
         needed << matches.next().captured(1);
-    needed.removeDuplicates();
-    needed.sort();
-    for (const QString& name : qAsConst(needed))
-        out << "    needs " << name << '\n';
+    QStringList names = needed.values();
+    names.sort();
+    out << "    needs " << names.join(QLatin1Char(' ')) << '\n';
 }
 
 /// The files inside the library: pictures with their sizes, the style sheet with its line ends.
