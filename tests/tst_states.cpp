@@ -408,7 +408,13 @@ private Q_SLOTS:
         prompt->setCountdown(30);
         prompt->show();
         QTRY_VERIFY(spinner.grab().toImage() != first);
-        QTRY_COMPARE(child<QPushButton>(prompt, "cancelButton").text(), QStringLiteral("Cancel(29)"));
+        auto& cancel = child<QPushButton>(prompt, "cancelButton");
+        QTRY_COMPARE(cancel.text(), QStringLiteral("Cancel(29)"));
+        // A screen reader presses the button like a mouse.
+        QAccessible::queryAccessibleInterface(&cancel)->actionInterface()->doAction(
+            QAccessibleActionInterface::pressAction());
+        QTRY_COMPARE(events.size(), 1);
+        QCOMPARE(takeEvents(), QStringList{QStringLiteral("evCancel")});
     }
 
     /// A run of its own has a scale factor of 2.
