@@ -251,18 +251,6 @@ private Q_SLOTS:
         QCOMPARE(rendered, references.entryList({QStringLiteral("*.png")}, QDir::Files, QDir::Name));
     }
 
-    void movedWidgetIsNoticed()
-    {
-        auto* dialog = get<IErrorMessageDialog>();
-        const auto render = [dialog] { return window(dialog).grab().toImage(); };
-        const QImage before = render();
-        QVERIFY(difference(render(), before).isNull());
-        QWidget& cancel = child(dialog, "btnCancel");
-        cancel.move(cancel.pos() - QPoint(6, 0));
-        const QImage marked = difference(render(), before);
-        QVERIFY(marked.pixelColor(cancel.geometry().topLeft() + QPoint(2, 8)) == Qt::magenta);
-    }
-
     /// Apart from the pictures, because walking through a dialog changes its later states.
     void access()
     {

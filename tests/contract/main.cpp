@@ -9,7 +9,6 @@
 #include <QJsonDocument>
 #include <QMetaMethod>
 #include <QPluginLoader>
-#include <QProcess>
 #include <QScreen>
 #include <QTextStream>
 
@@ -56,24 +55,6 @@ void describePlugin(QTextStream& out, const QString& path)
         out << "    " << key << ' ' << data.value(QLatin1String(key)).toString() << '\n';
     const QJsonDocument custom(data.value(QLatin1String("MetaData")).toObject());
     out << "    MetaData " << custom.toJson(QJsonDocument::Compact) << '\n';
-
-    QProcess nm;
-    nm.start(QStringLiteral(NM),
-             {QStringLiteral("--dynamic"), QStringLiteral("--defined-only"), QStringLiteral("--format=posix"), path});
-    if (!nm.waitForFinished() || nm.exitCode() != 0)
-        qFatal("cannot list the symbols of %s", qPrintable(path));
-    for (const QByteArray& symbol : nm.readAllStandardOutput().trimmed().split('\n'))
-        out << "    exports " << symbol.left(symbol.indexOf(' ')) << '\n';
-
-    QFile file(path);
-    const QByteArray code = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    QSet<QString> needed;
-    const QRegularExpression library(QStringLiteral(R"(lib(Qt\w+)\.so)"));
-    for (auto matches = library.globalMatch(QString::fromLatin1(code.constData(), code.size())); matches.hasNext();)
-        needed << matches.next().captured(1);
-    QStringList names = needed.values();
-    names.sort();
-    out << "    needs " << names.join(QLatin1Char(' ')) << '\n';
 }
 
 /// The files inside the library: pictures with their sizes, the style sheet with its line ends.
