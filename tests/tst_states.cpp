@@ -77,15 +77,16 @@ struct Ink {
     QRect box;
 };
 
-Ink inkOf(QWidget* widget, const char* property)
+/// Of the widget alone, or of the window with what lies behind and above the text.
+Ink inkOf(QWidget* widget, const char* property, bool inWindow = false)
 {
     Ink ink;
     const QVariant text = widget->property(property);
     if (text.toString().isEmpty())
         return ink;
-    QWidget& top = *widget->window();
-    const QRect area(widget->mapTo(&top, QPoint()), widget->size());
-    const auto paint = [&] { return top.grab(area).toImage().convertToFormat(QImage::Format_RGB32); };
+    QWidget* painted = inWindow ? widget->window() : widget;
+    const QRect area(widget->mapTo(painted, QPoint()), widget->size());
+    const auto paint = [&] { return painted->grab(area).toImage(); };
     const QImage with = paint();
     // A blank keeps what an empty field would show instead away.
     widget->setProperty(property, text.type() == QVariant::Int ? QVariant(-1) : QVariant(QStringLiteral(" ")));
@@ -191,7 +192,8 @@ bool isCut(QWidget* widget, const char* property)
 } // namespace
 
 /// Every dialog in the states of its gallery: what it looks like, what a screen reader finds there, where the keyboard
-/// leads, and whether its texts can be read, in the language of LANGUAGE at the resolution of QT_FONT_DPI.
+/// leads, and whether its texts can be read: in the language of GUI_TEST_LANGUAGE at the
+/// resolution of QT_FONT_DPI.
 class StatesTest : public GuiTest {
     Q_OBJECT
 
@@ -319,7 +321,7 @@ private Q_SLOTS:
                     } else if (look == 2) {
                         button->setDown(true);
                     }
-                    const Ink ink = inkOf(widget, property);
+                    const Ink ink = inkOf(widget, property, true);
                     measured += ink.pixels.isEmpty() ? 0 : 1;
                     if (contrastOf(ink) < requiredContrast(*widget))
                         weak << QStringLiteral("%1 %2 %3: %4")
