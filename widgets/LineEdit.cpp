@@ -90,8 +90,8 @@ void LineEdit::replaceInsertion(int start, int end, const QString& kept)
         setCursorPosition(start + kept.size());
         return;
     }
-    // Taking the insertion back first leaves one step in the history. It may reach further back than the insertion: what
-    // was typed just before it is part of the same step, and comes again together with it.
+    // Taking the insertion back first leaves one step in the history. It may reach further back than the insertion:
+    // what was typed just before it is part of the same step, and comes again together with it.
     undo();
     start = hasSelectedText() ? selectionStart() : cursorPosition();
     insert(wanted.mid(start, wanted.size() - text().size() + selectedText().size()));

@@ -2,8 +2,8 @@
 
 #include <QLineEdit>
 
-/// The one-line field of all dialogs. What a person types, pastes or drops is cleaned before it stays, and undo then goes
-/// from the cleaned text straight to what was there before. What the program sets is never changed.
+/// The one-line field of all dialogs. What a person types, pastes or drops is cleaned before it stays, and undo then
+/// goes from the cleaned text straight to what was there before. What the program sets is never changed.
 ///
 /// Assistive technology, and whatever poses as such, can fill a secret field but not read it: it learns how many
 /// characters there are, come and go, not which.

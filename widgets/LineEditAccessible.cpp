@@ -15,10 +15,9 @@ QString masked(const QLineEdit* edit, int length)
 }
 
 /// What Qt's own interface for line edits does, which cannot be derived from, except for secrets and textAtOffset().
-class LineEditAccessible final
-    : public QAccessibleWidget
-    , public QAccessibleTextInterface
-    , public QAccessibleEditableTextInterface {
+class LineEditAccessible final : public QAccessibleWidget,
+                                 public QAccessibleTextInterface,
+                                 public QAccessibleEditableTextInterface {
 public:
     explicit LineEditAccessible(LineEdit* lineEdit)
         : QAccessibleWidget(lineEdit, QAccessible::EditableText), edit(lineEdit)
@@ -126,8 +125,8 @@ public:
         const QString text = edit->displayText();
         const QFontMetrics metrics = edit->fontMetrics();
         const QRect caret = edit->inputMethodQuery(Qt::ImCursorRectangle).toRect();
-        const int shift = metrics.horizontalAdvance(text.left(offset))
-            - metrics.horizontalAdvance(text.left(edit->cursorPosition()));
+        const int shift =
+            metrics.horizontalAdvance(text.left(offset)) - metrics.horizontalAdvance(text.left(edit->cursorPosition()));
         const QPoint position(caret.center().x() + shift, caret.top());
         return QRect(edit->mapToGlobal(position), QSize(metrics.horizontalAdvance(text.at(offset)), caret.height()));
     }
@@ -185,8 +184,8 @@ void send(QAccessibleEvent* event)
         nextHandler(event);
         return;
     }
-    // The way to the window system is open only while no handler is installed. A table was told of its change before any
-    // handler; it must not hear of it twice, and no window system listens to it.
+    // The way to the window system is open only while no handler is installed. A table was told of its change before
+    // any handler; it must not hear of it twice, and no window system listens to it.
     if (event->type() == QAccessible::TableModelChanged)
         return;
     QAccessible::installUpdateHandler(nullptr);
@@ -194,7 +193,8 @@ void send(QAccessibleEvent* event)
     QAccessible::installUpdateHandler(sendMasked);
 }
 
-/// Sends every event on, but none with the text of a secret field: a line edit puts that into them in password mode too.
+/// Sends every event on, but none with the text of a secret field: a line edit puts that into them in password mode
+/// too.
 void sendMasked(QAccessibleEvent* event)
 {
     auto* edit = qobject_cast<LineEdit*>(event->object());

@@ -23,9 +23,8 @@ void replaceDifference(QTextDocument* document, const QString& text)
 {
     const QString before = document->toRawText();
     const auto [oldDifference, newDifference] = std::mismatch(before.begin(), before.end(), text.begin(), text.end());
-    const auto [oldEnd, newEnd] =
-        std::mismatch(before.rbegin(), std::make_reverse_iterator(oldDifference), text.rbegin(),
-                      std::make_reverse_iterator(newDifference));
+    const auto [oldEnd, newEnd] = std::mismatch(before.rbegin(), std::make_reverse_iterator(oldDifference),
+                                                text.rbegin(), std::make_reverse_iterator(newDifference));
     if (oldEnd.base() == oldDifference && newEnd.base() == newDifference)
         return;
     QTextCursor cursor(document);
@@ -54,8 +53,8 @@ void DetailsEdit::cutSurplus()
     // What stood before the edit is not split by it: a combining mark typed at the limit leaves its letter alone.
     const int end = qMax(characterBoundary(document(), maxLength), qMin(editPosition, maxLength));
     const QString kept = document()->toRawText().left(end);
-    // Taking the edit back first leaves one step in the history. That may have begun before the edit, with what was typed
-    // just before it, which comes again together with it.
+    // Taking the edit back first leaves one step in the history. That may have begun before the edit, with what was
+    // typed just before it, which comes again together with it.
     const bool isUndoable = document()->isUndoAvailable();
     if (isUndoable)
         document()->undo();

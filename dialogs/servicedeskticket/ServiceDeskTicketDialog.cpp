@@ -255,7 +255,6 @@ bool ServiceDeskTicketDialog::confirmDiscard()
 {
     // The host may delete the dialog, and the question with it, while the question waits for its answer.
     const QPointer<QMessageBox> question(new QMessageBox(this));
-    question->setFont(font());
     question->setWindowFlags(question->windowFlags() | Qt::WindowStaysOnTopHint);
     question->setWindowTitle(literalWindowTitle(brandingStrings().companyName + QLatin1String(" Client")));
     question->setTextFormat(Qt::RichText);
@@ -271,6 +270,10 @@ bool ServiceDeskTicketDialog::confirmDiscard()
     question->button(QMessageBox::Discard)->setText(tr("Ok"));
     //: Goes back to the ticket
     question->button(QMessageBox::Cancel)->setText(tr("Cancel"));
+    // A font set on the box alone gives way to the desktop's own fonts for labels and buttons of message boxes.
+    const QList<QWidget*> parts = question->findChildren<QWidget*>();
+    for (QWidget* part : parts)
+        part->setFont(font());
 
     const bool discard = question->exec() == QMessageBox::Discard;
     delete question;
