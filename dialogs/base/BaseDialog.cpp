@@ -136,6 +136,8 @@ void BaseDialog::setCaption(QLabel* prefixLabel, QLabel* titleLabel, const QStri
 {
     prefixLabel->setTextFormat(Qt::PlainText);
     prefixLabel->setText(captionPrefix);
+    if (prefixLabel->sizeHint().width() > prefixLabel->width())
+        prefixLabel->setToolTip(literalToolTip(captionPrefix.trimmed()));
     setTitle(title);
     if (titleLabel)
         titleLabel->setText(title);

@@ -36,7 +36,7 @@ void fadePlaceholder(QWidget* field)
 } // namespace
 
 ServiceDeskTicketDialog::ServiceDeskTicketDialog(QWidget* parent)
-    : BaseDialog(parent), ui(new Ui::ServiceDeskTicketDialog)
+    : BaseDialog(parent), ui(std::make_unique<Ui::ServiceDeskTicketDialog>())
 {
     ui->setupUi(this);
     setupWindow();
