@@ -6,6 +6,7 @@
 #include <QAccessibleWidget>
 #include <QFontMetrics>
 #include <QStyle>
+#include <QTextBoundaryFinder>
 
 namespace {
 QString masked(const QLineEdit* edit, int length)
@@ -14,7 +15,8 @@ QString masked(const QLineEdit* edit, int length)
     return QString(length, QChar(mask));
 }
 
-/// What Qt's own interface for line edits does, which cannot be derived from, except for secrets and textAtOffset().
+/// What Qt's own interface for line edits does, which cannot be derived from, except for secrets and the search for
+/// words.
 class LineEditAccessible final : public QAccessibleWidget,
                                  public QAccessibleTextInterface,
                                  public QAccessibleEditableTextInterface {
@@ -103,14 +105,43 @@ public:
         return edit->isSecret() || start > end ? QString() : edit->text().mid(start, end - start);
     }
 
+    QString textBeforeOffset(int offset, QAccessible::TextBoundaryType boundary, int* start, int* end) const override
+    {
+        textAtOffset(offset, boundary, start, end);
+        return textAtOffset(*start > 0 ? *start - 1 : characterCount() + 1, boundary, start, end);
+    }
+
+    QString textAfterOffset(int offset, QAccessible::TextBoundaryType boundary, int* start, int* end) const override
+    {
+        textAtOffset(offset, boundary, start, end);
+        const bool isLast = *end < 0 || *end >= characterCount();
+        return textAtOffset(isLast ? characterCount() + 1 : *end, boundary, start, end);
+    }
+
     QString textAtOffset(int offset, QAccessible::TextBoundaryType boundary, int* start, int* end) const override
     {
-        // Up to Qt 5.15 the search for the end of a word that starts behind the last character never ends.
-        const bool atEnd = offset == -1 || offset == characterCount();
-        const bool isSearched = boundary == QAccessible::WordBoundary || boundary == QAccessible::SentenceBoundary;
-        if (atEnd && isSearched)
-            offset = qMax(0, characterCount() - 1);
-        return QAccessibleTextInterface::textAtOffset(offset, boundary, start, end);
+        // Up to Qt 5.15 its own search never ends behind the last character, nor at a blank before the first word.
+        const QString readable = text(0, characterCount());
+        *start = *end = -1;
+        if (readable.isEmpty() || offset < -1 || offset > readable.size())
+            return QString();
+        QTextBoundaryFinder::BoundaryType type = QTextBoundaryFinder::Grapheme;
+        if (boundary == QAccessible::WordBoundary) {
+            type = QTextBoundaryFinder::Word;
+        } else if (boundary == QAccessible::SentenceBoundary) {
+            type = QTextBoundaryFinder::Sentence;
+        } else if (boundary != QAccessible::CharBoundary) {
+            *start = 0;
+            *end = readable.size();
+            return readable;
+        }
+        QTextBoundaryFinder finder(type, readable);
+        const bool isAtEnd = offset == -1 || offset == readable.size();
+        finder.setPosition(isAtEnd ? readable.size() - 1 : offset);
+        *start = finder.isAtBoundary() ? finder.position() : qMax(0, finder.toPreviousBoundary());
+        const int next = finder.toNextBoundary();
+        *end = next < 0 ? readable.size() : next;
+        return text(*start, *end);
     }
 
     int characterCount() const override

@@ -43,28 +43,38 @@ void MessageLabel::changeEvent(QEvent* event)
 QStringList MessageLabel::visibleLines(bool* elided) const
 {
     const QFontMetrics metrics = fontMetrics();
-    const int width = contentsRect().width();
     const int lineCount = qMax(1, (contentsRect().height() - metrics.height()) / metrics.lineSpacing() + 1);
-    *elided = text().size() > longestMessage;
+    QStringList lines = brokenLines(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    if (lines.size() > lineCount) {
+        // A path has few places to break at; broken anywhere it may still fit.
+        const QStringList dense = brokenLines(QTextOption::WrapAnywhere);
+        if (dense.size() <= lineCount)
+            lines = dense;
+    }
+    *elided = lines.size() > lineCount;
+    if (*elided) {
+        const QString rest = QStringList(lines.mid(lineCount - 1)).join(QLatin1Char(' '));
+        lines = lines.mid(0, lineCount - 1);
+        lines << metrics.elidedText(rest, Qt::ElideRight, contentsRect().width());
+    }
+    return lines;
+}
+
+QStringList MessageLabel::brokenLines(QTextOption::WrapMode wrapMode) const
+{
+    QTextOption option;
+    option.setWrapMode(wrapMode);
     QStringList lines;
     const QStringList paragraphs = text().left(longestMessage).split(QLatin1Char('\n'));
     for (const QString& paragraph : paragraphs) {
         QTextLayout layout(paragraph, font());
-        QTextOption option;
-        option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
         layout.setTextOption(option);
         layout.beginLayout();
         for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-            line.setLineWidth(width);
+            line.setLineWidth(contentsRect().width());
             lines << paragraph.mid(line.textStart(), line.textLength()).trimmed();
         }
         layout.endLayout();
-    }
-    if (lines.size() > lineCount) {
-        *elided = true;
-        const QString rest = QStringList(lines.mid(lineCount - 1)).join(QLatin1Char(' '));
-        lines = lines.mid(0, lineCount - 1);
-        lines << metrics.elidedText(rest, Qt::ElideRight, width);
     }
     return lines;
 }
