@@ -27,16 +27,9 @@ struct Message {
     QString context;
     QString source;
     QString comment;
-    bool isFinished = false;
     bool hasPlurals = false;
     /// Several when the text has plural forms.
     QStringList translations;
-
-    bool operator==(const Message& other) const
-    {
-        return context == other.context && source == other.source && comment == other.comment
-            && isFinished == other.isFinished && translations == other.translations;
-    }
 };
 
 QString path(const QString& folder, const QString& language)
@@ -44,14 +37,19 @@ QString path(const QString& folder, const QString& language)
     return QStringLiteral("%1/Gui_%2.ts").arg(folder, language);
 }
 
-QVector<Message> readCatalogue(const QString& path)
+QByteArray contents(const QString& path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         qFatal("cannot read %s", qPrintable(path));
+    return file.readAll();
+}
+
+QVector<Message> messagesOf(const QByteArray& catalogue)
+{
     QVector<Message> messages;
     QString context;
-    for (QXmlStreamReader xml(&file); !xml.atEnd(); xml.readNext()) {
+    for (QXmlStreamReader xml(catalogue); !xml.atEnd(); xml.readNext()) {
         if (!xml.isStartElement())
             continue;
         const QString element = xml.name().toString();
@@ -66,7 +64,6 @@ QVector<Message> readCatalogue(const QString& path)
         } else if (element == QLatin1String("comment")) {
             messages.last().comment = xml.readElementText();
         } else if (element == QLatin1String("translation")) {
-            messages.last().isFinished = !xml.attributes().hasAttribute(QLatin1String("type"));
             if (!messages.last().hasPlurals)
                 messages.last().translations << xml.readElementText();
         } else if (element == QLatin1String("numerusform")) {
@@ -114,20 +111,24 @@ void CataloguesTest::catalogue_data()
 void CataloguesTest::catalogue()
 {
     QFETCH(QString, language);
-    const QVector<Message> messages = readCatalogue(path(directory, language));
-    const QVector<Message> inStepWithSources = readCatalogue(path(updated.path(), language));
+    const QByteArray catalogue = contents(path(directory, language));
+    QVERIFY2(contents(path(updated.path(), language)) == catalogue, "build the target update-translations");
+    QVERIFY2(!catalogue.contains("type=\"unfinished\""), "a text is not translated");
     QTranslator library;
     QVERIFY(library.load(QStringLiteral(":/translations/Gui_") + language));
+    const QVector<Message> messages = messagesOf(catalogue);
     QVERIFY(!messages.isEmpty());
     for (const Message& message : messages) {
         const QByteArray source = message.source.toUtf8();
-        QVERIFY2(inStepWithSources.contains(message), source.constData());
-        QVERIFY2(message.isFinished && !message.translations.isEmpty(), source.constData());
+        QVERIFY2(!message.translations.isEmpty(), source.constData());
         for (const QString& translation : message.translations) {
             QVERIFY2(!translation.isEmpty(), source.constData());
             QCOMPARE(placeholders(translation), placeholders(message.source));
             // Where a value follows in the same line, and where it does not.
             QCOMPARE(translation.endsWith(QLatin1Char(' ')), message.source.endsWith(QLatin1Char(' ')));
+            // The prompt takes what follows the first bracket on its buttons for the countdown.
+            QVERIFY(message.context != QLatin1String("ApproveRemoteConnectionDialog")
+                    || !translation.contains(QLatin1Char('(')));
         }
         if (language == QLatin1String("en") && !message.hasPlurals)
             QCOMPARE(message.translations.first(), message.source);
@@ -135,7 +136,6 @@ void CataloguesTest::catalogue()
                                    message.comment.toUtf8().constData(), message.hasPlurals ? 1 : -1),
                  message.translations.first());
     }
-    QCOMPARE(messages.size(), inStepWithSources.size());
 }
 
 GUI_TEST_MAIN(CataloguesTest)

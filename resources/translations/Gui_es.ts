@@ -166,12 +166,12 @@ para administrar este dispositivo</translation>
     </message>
     <message>
         <source>Allow</source>
-        <extracomment>Button: lets the remote person in</extracomment>
+        <extracomment>Button: lets the remote person in. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
         <translation>Permitir</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <extracomment>Button: refuses the remote person</extracomment>
+        <extracomment>Button: refuses the remote person, the opposite of &quot;Allow&quot;. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
         <translation>Cancelar</translation>
     </message>
     <message>
@@ -219,10 +219,12 @@ para administrar este dispositivo</translation>
     </message>
     <message>
         <source>You need to login with your Brisel Tavik online account in order to continue</source>
+        <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
         <translation>Para continuar, inicie sesión con su cuenta en línea de Brisel Tavik</translation>
     </message>
     <message>
         <source>Please login with your Brisel Tavik</source>
+        <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
         <translation>Inicie sesión con su cuenta de Brisel Tavik</translation>
     </message>
     <message>
@@ -453,6 +455,171 @@ Name of the large picture for screen readers</extracomment>
     </message>
 </context>
 <context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>&amp;Seleccionar todo</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>&amp;Aumentar</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>Dis&amp;minuir</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rehacer</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Cor&amp;tar</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Pegar</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Seleccionar todo</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Discard</source>
+        <translation>Descartar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Desplazar hasta aquí</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Borde izquierdo</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Principio</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Borde derecho</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Final</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>Página a la izquierda</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Página arriba</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>Página a la derecha</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Página abajo</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Desplazar a la izquierda</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Desplazar hacia arriba</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Desplazar a la derecha</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Desplazar hacia abajo</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Mayús</translation>
+    </message>
+</context>
+<context>
+    <name>QUnicodeControlCharacterMenu</name>
+    <message>
+        <source>Insert Unicode control character</source>
+        <translation>Insertar carácter de control Unicode</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rehacer</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Cor&amp;tar</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Pegar</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Seleccionar todo</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>Copiar la dirección del &amp;enlace</translation>
+    </message>
+</context>
+<context>
     <name>RebootDialog</name>
     <message>
         <source>Tavik Reboot</source>
@@ -521,7 +688,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>End session</source>
-        <extracomment>Button: stops the remote tools session</extracomment>
+        <extracomment>Button: stops the session. May be shortened</extracomment>
         <translation>Finalizar sesión</translation>
     </message>
     <message>
@@ -539,34 +706,42 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>File uploaded</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>Archivo cargado</translation>
     </message>
     <message>
         <source>Upload aborted</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>Carga interrumpida</translation>
     </message>
     <message>
         <source>Upload cancelled</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>Carga cancelada</translation>
     </message>
     <message>
         <source>File downloaded</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>Archivo descargado</translation>
     </message>
     <message>
         <source>Download aborted</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>Descarga interrumpida</translation>
     </message>
     <message>
         <source>Download cancelled</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>Descarga cancelada</translation>
     </message>
     <message>
         <source>Folder uploaded</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>Carpeta cargada</translation>
     </message>
     <message>
         <source>Folder downloaded</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>Carpeta descargada</translation>
     </message>
     <message>
@@ -635,6 +810,12 @@ Name of the large picture for screen readers</extracomment>
         <source>Activity log</source>
         <extracomment>What is done on this computer during the session</extracomment>
         <translation>Registro de actividad</translation>
+    </message>
+    <message>
+        <source>End session</source>
+        <comment>in full</comment>
+        <extracomment>Name of the button for screen readers, never shortened</extracomment>
+        <translation>Finalizar sesión</translation>
     </message>
 </context>
 <context>

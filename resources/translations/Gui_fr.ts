@@ -166,12 +166,12 @@ pour gérer cet appareil</translation>
     </message>
     <message>
         <source>Allow</source>
-        <extracomment>Button: lets the remote person in</extracomment>
+        <extracomment>Button: lets the remote person in. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
         <translation>Autoriser</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <extracomment>Button: refuses the remote person</extracomment>
+        <extracomment>Button: refuses the remote person, the opposite of &quot;Allow&quot;. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
         <translation>Annuler</translation>
     </message>
     <message>
@@ -219,10 +219,12 @@ pour gérer cet appareil</translation>
     </message>
     <message>
         <source>You need to login with your Brisel Tavik online account in order to continue</source>
+        <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
         <translation>Pour continuer, connectez-vous avec votre compte en ligne Brisel Tavik</translation>
     </message>
     <message>
         <source>Please login with your Brisel Tavik</source>
+        <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
         <translation>Veuillez vous connecter avec votre compte Brisel Tavik</translation>
     </message>
     <message>
@@ -455,6 +457,171 @@ Name of the large picture for screen readers</extracomment>
     </message>
 </context>
 <context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>Tout &amp;sélectionner</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>Au&amp;gmenter</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>&amp;Diminuer</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Co&amp;uper</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>C&amp;oller</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Tout sélectionner</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Discard</source>
+        <translation>Abandonner</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Faire défiler jusqu’ici</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Bord gauche</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Début</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Bord droit</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Fin</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>Page à gauche</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Page précédente</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>Page à droite</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Page suivante</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Défiler vers la gauche</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Défiler vers le haut</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Défiler vers la droite</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Défiler vers le bas</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Maj</translation>
+    </message>
+</context>
+<context>
+    <name>QUnicodeControlCharacterMenu</name>
+    <message>
+        <source>Insert Unicode control character</source>
+        <translation>Insérer un caractère de contrôle Unicode</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Co&amp;uper</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>C&amp;oller</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>Copier l’adresse du &amp;lien</translation>
+    </message>
+</context>
+<context>
     <name>RebootDialog</name>
     <message>
         <source>Tavik Reboot</source>
@@ -523,7 +690,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>End session</source>
-        <extracomment>Button: stops the remote tools session</extracomment>
+        <extracomment>Button: stops the session. May be shortened</extracomment>
         <translation>Terminer</translation>
     </message>
     <message>
@@ -541,34 +708,42 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>File uploaded</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>Fichier chargé</translation>
     </message>
     <message>
         <source>Upload aborted</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>Chargement arrêté</translation>
     </message>
     <message>
         <source>Upload cancelled</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>Chargement annulé</translation>
     </message>
     <message>
         <source>File downloaded</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>Fichier téléchargé</translation>
     </message>
     <message>
         <source>Download aborted</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>Téléchargement arrêté</translation>
     </message>
     <message>
         <source>Download cancelled</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>Téléchargement annulé</translation>
     </message>
     <message>
         <source>Folder uploaded</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>Dossier chargé</translation>
     </message>
     <message>
         <source>Folder downloaded</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>Dossier téléchargé</translation>
     </message>
     <message>
@@ -637,6 +812,12 @@ Name of the large picture for screen readers</extracomment>
         <source>Activity log</source>
         <extracomment>What is done on this computer during the session</extracomment>
         <translation>Journal d’activité</translation>
+    </message>
+    <message>
+        <source>End session</source>
+        <comment>in full</comment>
+        <extracomment>Name of the button for screen readers, never shortened</extracomment>
+        <translation>Terminer la session</translation>
     </message>
 </context>
 <context>

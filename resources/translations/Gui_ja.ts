@@ -166,12 +166,12 @@ Tavik の登録が必要です</translation>
     </message>
     <message>
         <source>Allow</source>
-        <extracomment>Button: lets the remote person in</extracomment>
+        <extracomment>Button: lets the remote person in. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
         <translation>許可</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <extracomment>Button: refuses the remote person</extracomment>
+        <extracomment>Button: refuses the remote person, the opposite of &quot;Allow&quot;. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
         <translation>キャンセル</translation>
     </message>
     <message>
@@ -218,11 +218,13 @@ Tavik の登録が必要です</translation>
     </message>
     <message>
         <source>You need to login with your Brisel Tavik online account in order to continue</source>
+        <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
         <translation>続行するには、Brisel Tavik オンライン アカウントで
 ログインする必要があります</translation>
     </message>
     <message>
         <source>Please login with your Brisel Tavik</source>
+        <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
         <translation>Brisel Tavik アカウントでログインしてください</translation>
     </message>
     <message>
@@ -453,6 +455,171 @@ Name of the large picture for screen readers</extracomment>
     </message>
 </context>
 <context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>すべて選択(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>値を増やす(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>値を減らす(&amp;D)</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>元に戻す(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>やり直し(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>切り取り(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>コピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>貼り付け(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>すべて選択</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Discard</source>
+        <translation>破棄</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>ここにスクロール</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>左端</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>一番上</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>右端</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>一番下</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>1 ページ左へ</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>1 ページ上へ</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>1 ページ右へ</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>1 ページ下へ</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>左にスクロール</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>上にスクロール</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>右にスクロール</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>下にスクロール</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+</context>
+<context>
+    <name>QUnicodeControlCharacterMenu</name>
+    <message>
+        <source>Insert Unicode control character</source>
+        <translation>Unicode 制御文字の挿入</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>元に戻す(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>やり直し(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>切り取り(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>コピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>貼り付け(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>すべて選択</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>リンクのアドレスをコピー(&amp;L)</translation>
+    </message>
+</context>
+<context>
     <name>RebootDialog</name>
     <message>
         <source>Tavik Reboot</source>
@@ -521,7 +688,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>End session</source>
-        <extracomment>Button: stops the remote tools session</extracomment>
+        <extracomment>Button: stops the session. May be shortened</extracomment>
         <translation>セッション終了</translation>
     </message>
     <message>
@@ -539,34 +706,42 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>File uploaded</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>ファイルのアップロード完了</translation>
     </message>
     <message>
         <source>Upload aborted</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>アップロードが中断されました</translation>
     </message>
     <message>
         <source>Upload cancelled</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>アップロードをキャンセル済み</translation>
     </message>
     <message>
         <source>File downloaded</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>ファイルのダウンロード完了</translation>
     </message>
     <message>
         <source>Download aborted</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>ダウンロードが中断されました</translation>
     </message>
     <message>
         <source>Download cancelled</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>ダウンロードをキャンセル済み</translation>
     </message>
     <message>
         <source>Folder uploaded</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>フォルダーのアップロード完了</translation>
     </message>
     <message>
         <source>Folder downloaded</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>フォルダーのダウンロード完了</translation>
     </message>
     <message>
@@ -635,6 +810,12 @@ Name of the large picture for screen readers</extracomment>
         <source>Activity log</source>
         <extracomment>What is done on this computer during the session</extracomment>
         <translation>操作ログ</translation>
+    </message>
+    <message>
+        <source>End session</source>
+        <comment>in full</comment>
+        <extracomment>Name of the button for screen readers, never shortened</extracomment>
+        <translation>セッション終了</translation>
     </message>
 </context>
 <context>

@@ -166,12 +166,12 @@ Tavik을 등록해야 합니다</translation>
     </message>
     <message>
         <source>Allow</source>
-        <extracomment>Button: lets the remote person in</extracomment>
+        <extracomment>Button: lets the remote person in. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
         <translation>허용</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <extracomment>Button: refuses the remote person</extracomment>
+        <extracomment>Button: refuses the remote person, the opposite of &quot;Allow&quot;. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
         <translation>취소</translation>
     </message>
     <message>
@@ -218,10 +218,12 @@ Tavik을 등록해야 합니다</translation>
     </message>
     <message>
         <source>You need to login with your Brisel Tavik online account in order to continue</source>
+        <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
         <translation>계속하려면 Brisel Tavik 온라인 계정으로 로그인해야 합니다</translation>
     </message>
     <message>
         <source>Please login with your Brisel Tavik</source>
+        <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
         <translation>Brisel Tavik 계정으로 로그인하십시오</translation>
     </message>
     <message>
@@ -452,6 +454,171 @@ Name of the large picture for screen readers</extracomment>
     </message>
 </context>
 <context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>모두 선택(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>값 늘리기(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>값 줄이기(&amp;D)</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>실행 취소(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>다시 실행(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>잘라내기(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>복사(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>붙여넣기(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>삭제</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>모두 선택</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Discard</source>
+        <translation>버리기</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>여기로 스크롤</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>왼쪽 끝</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>맨 위</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>오른쪽 끝</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>맨 아래</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>한 페이지 왼쪽</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>한 페이지 위로</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>한 페이지 오른쪽</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>한 페이지 아래로</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>왼쪽으로 스크롤</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>위로 스크롤</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>오른쪽으로 스크롤</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>아래로 스크롤</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+</context>
+<context>
+    <name>QUnicodeControlCharacterMenu</name>
+    <message>
+        <source>Insert Unicode control character</source>
+        <translation>유니코드 제어 문자 삽입</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>실행 취소(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>다시 실행(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>잘라내기(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>복사(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>붙여넣기(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>삭제</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>모두 선택</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>링크 주소 복사(&amp;L)</translation>
+    </message>
+</context>
+<context>
     <name>RebootDialog</name>
     <message>
         <source>Tavik Reboot</source>
@@ -520,7 +687,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>End session</source>
-        <extracomment>Button: stops the remote tools session</extracomment>
+        <extracomment>Button: stops the session. May be shortened</extracomment>
         <translation>세션 종료</translation>
     </message>
     <message>
@@ -538,34 +705,42 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>File uploaded</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>파일을 업로드했습니다</translation>
     </message>
     <message>
         <source>Upload aborted</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>업로드가 중단되었습니다</translation>
     </message>
     <message>
         <source>Upload cancelled</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>업로드가 취소되었습니다</translation>
     </message>
     <message>
         <source>File downloaded</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>파일을 다운로드했습니다</translation>
     </message>
     <message>
         <source>Download aborted</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>다운로드가 중단되었습니다</translation>
     </message>
     <message>
         <source>Download cancelled</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>다운로드가 취소되었습니다</translation>
     </message>
     <message>
         <source>Folder uploaded</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>폴더를 업로드했습니다</translation>
     </message>
     <message>
         <source>Folder downloaded</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>폴더를 다운로드했습니다</translation>
     </message>
     <message>
@@ -634,6 +809,12 @@ Name of the large picture for screen readers</extracomment>
         <source>Activity log</source>
         <extracomment>What is done on this computer during the session</extracomment>
         <translation>활동 로그</translation>
+    </message>
+    <message>
+        <source>End session</source>
+        <comment>in full</comment>
+        <extracomment>Name of the button for screen readers, never shortened</extracomment>
+        <translation>세션 종료</translation>
     </message>
 </context>
 <context>
