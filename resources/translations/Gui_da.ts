@@ -172,7 +172,7 @@ for at denne enhed kan administreres</translation>
     <message>
         <source>Cancel</source>
         <extracomment>Button: refuses the remote person, the opposite of &quot;Allow&quot;. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
-        <translation>Annuller</translation>
+        <translation>Afvis</translation>
     </message>
     <message>
         <source>Remote tools</source>
@@ -201,7 +201,7 @@ for at denne enhed kan administreres</translation>
     <name>AuthorizationDialog</name>
     <message>
         <source>Brisel Tavik Login</source>
-        <translation>Brisel Tavik – Log på</translation>
+        <translation>Brisel Tavik – Login</translation>
     </message>
     <message>
         <source>Forgot username or password?</source>
@@ -220,12 +220,12 @@ for at denne enhed kan administreres</translation>
     <message>
         <source>You need to login with your Brisel Tavik online account in order to continue</source>
         <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
-        <translation>Du skal logge på med din Brisel Tavik-onlinekonto for at fortsætte</translation>
+        <translation>Du skal logge på med din Brisel&#xa0;Tavik‑onlinekonto for&#xa0;at&#xa0;fortsætte</translation>
     </message>
     <message>
         <source>Please login with your Brisel Tavik</source>
         <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
-        <translation>Log på med din Brisel Tavik-konto</translation>
+        <translation>Log på med din Brisel&#xa0;Tavik-konto</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -262,7 +262,7 @@ for at denne enhed kan administreres</translation>
     </message>
     <message>
         <source>Please enter your credentials in order to continue</source>
-        <translation>Indtast dine legitimationsoplysninger for at fortsætte</translation>
+        <translation>Indtast dine loginoplysninger for at fortsætte</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -302,7 +302,7 @@ for at denne enhed kan administreres</translation>
     <message>
         <source>Administrator password</source>
         <extracomment>Name of a field for screen readers</extracomment>
-        <translation>Administratorens kodeord</translation>
+        <translation>Administratorkodeord</translation>
     </message>
     <message>
         <source>Custom password</source>
@@ -393,7 +393,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Automatically download and install program updates</source>
-        <translation>Hent og installer automatisk programopdateringer</translation>
+        <translation>Download og installer automatisk programopdateringer</translation>
     </message>
     <message>
         <source>Deactivate ZENT Agent...</source>
@@ -446,7 +446,7 @@ Name of the large picture for screen readers</extracomment>
     <message>
         <source>Progress</source>
         <extracomment>Name for screen readers of the turning spinner and of the number in it</extracomment>
-        <translation>Status</translation>
+        <translation>Forløb</translation>
     </message>
     <message>
         <source>Please wait</source>
@@ -722,17 +722,17 @@ Name of the large picture for screen readers</extracomment>
     <message>
         <source>File downloaded</source>
         <extracomment>Download: from this computer to the technician</extracomment>
-        <translation>Fil hentet</translation>
+        <translation>Fil downloadet</translation>
     </message>
     <message>
         <source>Download aborted</source>
         <extracomment>Download: from this computer to the technician</extracomment>
-        <translation>Hentning afbrudt</translation>
+        <translation>Download afbrudt</translation>
     </message>
     <message>
         <source>Download cancelled</source>
         <extracomment>Download: from this computer to the technician</extracomment>
-        <translation>Hentning annulleret</translation>
+        <translation>Download annulleret</translation>
     </message>
     <message>
         <source>Folder uploaded</source>
@@ -742,7 +742,7 @@ Name of the large picture for screen readers</extracomment>
     <message>
         <source>Folder downloaded</source>
         <extracomment>Download: from this computer to the technician</extracomment>
-        <translation>Mappe hentet</translation>
+        <translation>Mappe downloadet</translation>
     </message>
     <message>
         <source>File deleted</source>
@@ -905,7 +905,7 @@ Name of the large picture for screen readers</extracomment>
     <name>ZentPasswordDialog</name>
     <message>
         <source>Brisel Tavik Login</source>
-        <translation>Brisel Tavik – Log på</translation>
+        <translation>Brisel Tavik – Login</translation>
     </message>
     <message>
         <source>Continue</source>

@@ -111,13 +111,13 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>You need to enroll Tavik by providing host, port and token from Device Enrollment email and pressing &quot;Enroll&quot; button.</source>
-        <translation>Registrieren Sie Tavik: Geben Sie Host, Port und Token aus der E-Mail zur Geräteregistrierung ein und klicken Sie auf „Registrieren“.</translation>
+        <translation>Registrieren Sie Tavik: Geben Sie Host, Port und Token aus der E‑Mail zur Geräteregistrierung ein und klicken Sie auf „Registrieren“.</translation>
     </message>
     <message>
         <source>Tavik needs to be enrolled
 in order to manage this device</source>
-        <translation>Tavik muss registriert werden,
-um dieses Gerät zu verwalten</translation>
+        <translation>Zur Verwaltung dieses Geräts
+muss Tavik registriert werden</translation>
     </message>
     <message>
         <source>Enrollment Required</source>
@@ -149,7 +149,7 @@ um dieses Gerät zu verwalten</translation>
     </message>
     <message>
         <source>Please set up host, port and token from Device Enrollment email.</source>
-        <translation>Bitte geben Sie Host, Port und Token aus der E-Mail zur Geräteregistrierung ein.</translation>
+        <translation>Bitte geben Sie Host, Port und Token aus&#xa0;der&#xa0;E‑Mail&#xa0;zur&#xa0;Geräteregistrierung&#xa0;ein.</translation>
     </message>
     <message>
         <source>Close</source>
@@ -172,7 +172,7 @@ um dieses Gerät zu verwalten</translation>
     <message>
         <source>Cancel</source>
         <extracomment>Button: refuses the remote person, the opposite of &quot;Allow&quot;. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
-        <translation>Abbrechen</translation>
+        <translation>Ablehnen</translation>
     </message>
     <message>
         <source>Remote tools</source>
@@ -187,7 +187,7 @@ um dieses Gerät zu verwalten</translation>
     <message>
         <source>Message</source>
         <extracomment>Name for screen readers</extracomment>
-        <translation>Meldung</translation>
+        <translation>Nachricht</translation>
     </message>
     <message numerus="yes">
         <source>%n second(s) left to answer</source>
@@ -201,7 +201,7 @@ um dieses Gerät zu verwalten</translation>
     <name>AuthorizationDialog</name>
     <message>
         <source>Brisel Tavik Login</source>
-        <translation>Brisel Tavik – Anmelden</translation>
+        <translation>Brisel Tavik – Anmeldung</translation>
     </message>
     <message>
         <source>Forgot username or password?</source>
@@ -220,12 +220,12 @@ um dieses Gerät zu verwalten</translation>
     <message>
         <source>You need to login with your Brisel Tavik online account in order to continue</source>
         <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
-        <translation>Melden Sie sich mit Ihrem Brisel Tavik-Onlinekonto an, um fortzufahren</translation>
+        <translation>Melden Sie sich mit Ihrem Brisel&#xa0;Tavik‑Onlinekonto an, um&#xa0;fortzufahren</translation>
     </message>
     <message>
         <source>Please login with your Brisel Tavik</source>
         <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
-        <translation>Bitte melden Sie sich mit Ihrem Brisel Tavik-Konto an</translation>
+        <translation>Bitte melden Sie sich mit Ihrem Brisel&#xa0;Tavik-Konto an</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -262,7 +262,7 @@ um dieses Gerät zu verwalten</translation>
     </message>
     <message>
         <source>Please enter your credentials in order to continue</source>
-        <translation>Geben Sie Ihre Anmeldedaten ein, um fortzufahren</translation>
+        <translation>Bitte geben Sie Ihre Anmeldedaten ein, um fortzufahren</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -656,7 +656,7 @@ Name of the large picture for screen readers</extracomment>
     <message>
         <source>Remind me in</source>
         <extracomment>Stands before a list of periods such as &quot;10 minutes&quot;</extracomment>
-        <translation>Erneut erinnern in</translation>
+        <translation>Erinnern in</translation>
     </message>
     <message>
         <source>Shutdown now</source>
@@ -672,7 +672,7 @@ Name of the large picture for screen readers</extracomment>
     <name>RemoteConnectionDialog</name>
     <message>
         <source>Remote Control by Corvane</source>
-        <translation>Remotesteuerung von Corvane</translation>
+        <translation>Remotesteuerung durch Corvane</translation>
     </message>
     <message>
         <source>Remote Tool Session</source>
@@ -905,7 +905,7 @@ Name of the large picture for screen readers</extracomment>
     <name>ZentPasswordDialog</name>
     <message>
         <source>Brisel Tavik Login</source>
-        <translation>Brisel Tavik – Anmelden</translation>
+        <translation>Brisel Tavik – Anmeldung</translation>
     </message>
     <message>
         <source>Continue</source>

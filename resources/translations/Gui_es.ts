@@ -82,7 +82,7 @@
         <extracomment>Stands in for the message until the host sets one
 ----------
 Name of the large picture for screen readers</extracomment>
-        <translation>Operación correcta</translation>
+        <translation>Operación completada</translation>
     </message>
     <message>
         <source>OK</source>
@@ -149,7 +149,7 @@ para administrar este dispositivo</translation>
     </message>
     <message>
         <source>Please set up host, port and token from Device Enrollment email.</source>
-        <translation>Introduzca el host, el puerto y el token del correo de inscripción del dispositivo.</translation>
+        <translation>Introduzca el host, el puerto y el token del&#xa0;correo&#xa0;de&#xa0;inscripción&#xa0;del&#xa0;dispositivo.</translation>
     </message>
     <message>
         <source>Close</source>
@@ -172,7 +172,7 @@ para administrar este dispositivo</translation>
     <message>
         <source>Cancel</source>
         <extracomment>Button: refuses the remote person, the opposite of &quot;Allow&quot;. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
-        <translation>Cancelar</translation>
+        <translation>Rechazar</translation>
     </message>
     <message>
         <source>Remote tools</source>
@@ -201,12 +201,12 @@ para administrar este dispositivo</translation>
     <name>AuthorizationDialog</name>
     <message>
         <source>Brisel Tavik Login</source>
-        <translation>Brisel Tavik – Iniciar sesión</translation>
+        <translation>Brisel Tavik – Inicio de sesión</translation>
     </message>
     <message>
         <source>Forgot username or password?</source>
         <extracomment>Text of a link</extracomment>
-        <translation>¿Olvidó el usuario o la clave?</translation>
+        <translation>¿Olvidó sus datos de acceso?</translation>
     </message>
     <message>
         <source>Login</source>
@@ -220,12 +220,12 @@ para administrar este dispositivo</translation>
     <message>
         <source>You need to login with your Brisel Tavik online account in order to continue</source>
         <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
-        <translation>Para continuar, inicie sesión con su cuenta en línea de Brisel Tavik</translation>
+        <translation>Para continuar, inicie sesión con su cuenta&#xa0;en&#xa0;línea&#xa0;de&#xa0;Brisel&#xa0;Tavik</translation>
     </message>
     <message>
         <source>Please login with your Brisel Tavik</source>
         <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
-        <translation>Inicie sesión con su cuenta de Brisel Tavik</translation>
+        <translation>Inicie sesión con su cuenta de Brisel&#xa0;Tavik</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -233,7 +233,8 @@ para administrar este dispositivo</translation>
     </message>
     <message>
         <source>Password:</source>
-        <translation>Clave:</translation>
+        <translation>Contra-
+seña:</translation>
     </message>
     <message>
         <source>Username:</source>
@@ -247,7 +248,7 @@ para administrar este dispositivo</translation>
     <message>
         <source>Password</source>
         <extracomment>Name of a field for screen readers</extracomment>
-        <translation>Clave</translation>
+        <translation>Contraseña</translation>
     </message>
 </context>
 <context>
@@ -274,7 +275,7 @@ para administrar este dispositivo</translation>
     </message>
     <message>
         <source>Ostrel Custom Password</source>
-        <translation>Clave personalizada de Ostrel</translation>
+        <translation>Contraseña personalizada de Ostrel</translation>
     </message>
     <message>
         <source>Domain:</source>
@@ -288,7 +289,7 @@ para administrar este dispositivo</translation>
     </message>
     <message>
         <source>Password:</source>
-        <translation>Clave:</translation>
+        <translation>Contraseña:</translation>
     </message>
     <message>
         <source>OK</source>
@@ -297,17 +298,17 @@ para administrar este dispositivo</translation>
     <message>
         <source>Enter password</source>
         <extracomment>Kind of dialog, at the right of the caption</extracomment>
-        <translation>Introducir clave</translation>
+        <translation>Introducir contraseña</translation>
     </message>
     <message>
         <source>Administrator password</source>
         <extracomment>Name of a field for screen readers</extracomment>
-        <translation>Clave del administrador</translation>
+        <translation>Contraseña de administrador</translation>
     </message>
     <message>
         <source>Custom password</source>
         <extracomment>Name of a field for screen readers</extracomment>
-        <translation>Clave personalizada</translation>
+        <translation>Contraseña personalizada</translation>
     </message>
 </context>
 <context>
@@ -385,7 +386,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Password:</source>
-        <translation>Clave:</translation>
+        <translation>Contraseña:</translation>
     </message>
     <message>
         <source>Show tray icon on the taskbar</source>
@@ -707,17 +708,17 @@ Name of the large picture for screen readers</extracomment>
     <message>
         <source>File uploaded</source>
         <extracomment>Upload: from the technician to this computer</extracomment>
-        <translation>Archivo cargado</translation>
+        <translation>Archivo subido</translation>
     </message>
     <message>
         <source>Upload aborted</source>
         <extracomment>Upload: from the technician to this computer</extracomment>
-        <translation>Carga interrumpida</translation>
+        <translation>Subida interrumpida</translation>
     </message>
     <message>
         <source>Upload cancelled</source>
         <extracomment>Upload: from the technician to this computer</extracomment>
-        <translation>Carga cancelada</translation>
+        <translation>Subida cancelada</translation>
     </message>
     <message>
         <source>File downloaded</source>
@@ -737,7 +738,7 @@ Name of the large picture for screen readers</extracomment>
     <message>
         <source>Folder uploaded</source>
         <extracomment>Upload: from the technician to this computer</extracomment>
-        <translation>Carpeta cargada</translation>
+        <translation>Carpeta subida</translation>
     </message>
     <message>
         <source>Folder downloaded</source>
@@ -782,7 +783,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Service paused</source>
-        <translation>Servicio en pausa</translation>
+        <translation>Servicio pausado</translation>
     </message>
     <message>
         <source>Service resumed</source>
@@ -855,7 +856,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Note: Company, Device Name and Owner are included by default.</source>
-        <translation>Nota: la empresa, el nombre del dispositivo y el propietario se incluyen de forma predeterminada.</translation>
+        <translation>Nota: la empresa, el nombre del dispositivo y el propietario se incluyen de&#xa0;forma&#xa0;predeterminada.</translation>
     </message>
     <message>
         <source>Submit</source>
@@ -905,7 +906,7 @@ Name of the large picture for screen readers</extracomment>
     <name>ZentPasswordDialog</name>
     <message>
         <source>Brisel Tavik Login</source>
-        <translation>Brisel Tavik – Iniciar sesión</translation>
+        <translation>Brisel Tavik – Inicio de sesión</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -918,12 +919,12 @@ Name of the large picture for screen readers</extracomment>
     <message>
         <source>You need to enter Zent Custom Password
 in order to continue</source>
-        <translation>Debe introducir la clave personalizada de Zent
-para continuar</translation>
+        <translation>Debe introducir la contraseña personalizada
+de Zent para continuar</translation>
     </message>
     <message>
         <source>Please enter Zent Custom Password</source>
-        <translation>Introduzca la clave personalizada de Zent</translation>
+        <translation>Introduzca la contraseña personalizada de Zent</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -931,17 +932,18 @@ para continuar</translation>
     </message>
     <message>
         <source>Password:</source>
-        <translation>Clave:</translation>
+        <translation>Contra-
+seña:</translation>
     </message>
     <message>
         <source>Enter password</source>
         <extracomment>Kind of dialog, at the right of the caption</extracomment>
-        <translation>Introducir clave</translation>
+        <translation>Introducir contraseña</translation>
     </message>
     <message>
         <source>Password</source>
         <extracomment>Name of a field for screen readers</extracomment>
-        <translation>Clave</translation>
+        <translation>Contraseña</translation>
     </message>
 </context>
 </TS>

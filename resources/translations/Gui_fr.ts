@@ -111,7 +111,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>You need to enroll Tavik by providing host, port and token from Device Enrollment email and pressing &quot;Enroll&quot; button.</source>
-        <translation>Pour inscrire Tavik, saisissez l’hôte, le port et le jeton de l’e-mail d’inscription de l’appareil, puis cliquez sur «&#xa0;Inscrire&#xa0;».</translation>
+        <translation>Pour inscrire Tavik, saisissez l’hôte, le port et le jeton de l’e‑mail d’inscription de&#xa0;l’appareil, puis cliquez sur «&#xa0;Inscrire&#xa0;».</translation>
     </message>
     <message>
         <source>Tavik needs to be enrolled
@@ -149,7 +149,7 @@ pour gérer cet appareil</translation>
     </message>
     <message>
         <source>Please set up host, port and token from Device Enrollment email.</source>
-        <translation>Veuillez saisir l’hôte, le port et le jeton de l’e-mail d’inscription de l’appareil.</translation>
+        <translation>Veuillez saisir l’hôte, le port et le jeton de&#xa0;l’e‑mail&#xa0;d’inscription&#xa0;de&#xa0;l’appareil.</translation>
     </message>
     <message>
         <source>Close</source>
@@ -172,7 +172,7 @@ pour gérer cet appareil</translation>
     <message>
         <source>Cancel</source>
         <extracomment>Button: refuses the remote person, the opposite of &quot;Allow&quot;. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
-        <translation>Annuler</translation>
+        <translation>Refuser</translation>
     </message>
     <message>
         <source>Remote tools</source>
@@ -220,12 +220,12 @@ pour gérer cet appareil</translation>
     <message>
         <source>You need to login with your Brisel Tavik online account in order to continue</source>
         <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
-        <translation>Pour continuer, connectez-vous avec votre compte en ligne Brisel Tavik</translation>
+        <translation>Pour continuer, connectez‑vous avec votre&#xa0;compte&#xa0;en&#xa0;ligne&#xa0;Brisel&#xa0;Tavik</translation>
     </message>
     <message>
         <source>Please login with your Brisel Tavik</source>
         <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
-        <translation>Veuillez vous connecter avec votre compte Brisel Tavik</translation>
+        <translation>Veuillez vous connecter avec votre compte Brisel&#xa0;Tavik</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -299,7 +299,7 @@ passe&#xa0;:</translation>
     <message>
         <source>Enter password</source>
         <extracomment>Kind of dialog, at the right of the caption</extracomment>
-        <translation>Saisir le mot de passe</translation>
+        <translation>Saisie du mot de passe</translation>
     </message>
     <message>
         <source>Administrator password</source>
@@ -662,7 +662,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Shutdown now</source>
-        <translation>Éteindre le PC</translation>
+        <translation>Arrêter le PC</translation>
     </message>
     <message>
         <source>Reason for the restart</source>
@@ -709,17 +709,17 @@ Name of the large picture for screen readers</extracomment>
     <message>
         <source>File uploaded</source>
         <extracomment>Upload: from the technician to this computer</extracomment>
-        <translation>Fichier chargé</translation>
+        <translation>Fichier téléversé</translation>
     </message>
     <message>
         <source>Upload aborted</source>
         <extracomment>Upload: from the technician to this computer</extracomment>
-        <translation>Chargement arrêté</translation>
+        <translation>Téléversement interrompu</translation>
     </message>
     <message>
         <source>Upload cancelled</source>
         <extracomment>Upload: from the technician to this computer</extracomment>
-        <translation>Chargement annulé</translation>
+        <translation>Téléversement annulé</translation>
     </message>
     <message>
         <source>File downloaded</source>
@@ -729,7 +729,7 @@ Name of the large picture for screen readers</extracomment>
     <message>
         <source>Download aborted</source>
         <extracomment>Download: from this computer to the technician</extracomment>
-        <translation>Téléchargement arrêté</translation>
+        <translation>Téléchargement interrompu</translation>
     </message>
     <message>
         <source>Download cancelled</source>
@@ -739,7 +739,7 @@ Name of the large picture for screen readers</extracomment>
     <message>
         <source>Folder uploaded</source>
         <extracomment>Upload: from the technician to this computer</extracomment>
-        <translation>Dossier chargé</translation>
+        <translation>Dossier téléversé</translation>
     </message>
     <message>
         <source>Folder downloaded</source>
@@ -788,7 +788,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Service resumed</source>
-        <translation>Reprise du service</translation>
+        <translation>Service repris</translation>
     </message>
     <message>
         <source>Session suspended</source>
@@ -796,7 +796,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Session resumed</source>
-        <translation>Reprise de la session</translation>
+        <translation>Session reprise</translation>
     </message>
     <message>
         <source>Hide window</source>
@@ -824,7 +824,7 @@ Name of the large picture for screen readers</extracomment>
     <name>ServiceDeskTicketDialog</name>
     <message>
         <source>Brisel Tavik: Submit Ticket</source>
-        <translation>Brisel Tavik&#xa0;: Envoyer un ticket</translation>
+        <translation>Brisel Tavik&#xa0;: Envoi d’un ticket</translation>
     </message>
     <message>
         <source>Tavik</source>
@@ -882,7 +882,7 @@ Name of the large picture for screen readers</extracomment>
     <message>
         <source>Submit ticket</source>
         <extracomment>Title of the dialog</extracomment>
-        <translation>Envoyer un ticket</translation>
+        <translation>Envoi d’un ticket</translation>
     </message>
     <message>
         <source>Ticket not submitted</source>
@@ -939,7 +939,7 @@ passe&#xa0;:</translation>
     <message>
         <source>Enter password</source>
         <extracomment>Kind of dialog, at the right of the caption</extracomment>
-        <translation>Saisir le mot de passe</translation>
+        <translation>Saisie du mot de passe</translation>
     </message>
     <message>
         <source>Password</source>

@@ -27,11 +27,11 @@
     </message>
     <message>
         <source>Support phone: </source>
-        <translation>Telefono supporto: </translation>
+        <translation>Telefono di supporto: </translation>
     </message>
     <message>
         <source>Support email: </source>
-        <translation>E-mail supporto: </translation>
+        <translation>E-mail di supporto: </translation>
     </message>
     <message>
         <source>All rights reserved</source>
@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>Support web-site: </source>
-        <translation>Sito Web supporto: </translation>
+        <translation>Sito web di supporto: </translation>
     </message>
     <message>
         <source>About</source>
@@ -111,7 +111,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>You need to enroll Tavik by providing host, port and token from Device Enrollment email and pressing &quot;Enroll&quot; button.</source>
-        <translation>È necessario registrare Tavik immettendo host, porta e token indicati nell’e-mail di registrazione del dispositivo e facendo clic su “Registra”.</translation>
+        <translation>È necessario registrare Tavik immettendo host, porta e token indicati nell’e‑mail di registrazione del dispositivo e facendo clic su “Registra”.</translation>
     </message>
     <message>
         <source>Tavik needs to be enrolled
@@ -149,7 +149,7 @@ per gestire questo dispositivo</translation>
     </message>
     <message>
         <source>Please set up host, port and token from Device Enrollment email.</source>
-        <translation>Immettere host, porta e token indicati nell’e-mail di registrazione del dispositivo.</translation>
+        <translation>Immettere host, porta e token indicati nell’e‑mail&#xa0;di&#xa0;registrazione&#xa0;del&#xa0;dispositivo.</translation>
     </message>
     <message>
         <source>Close</source>
@@ -172,7 +172,7 @@ per gestire questo dispositivo</translation>
     <message>
         <source>Cancel</source>
         <extracomment>Button: refuses the remote person, the opposite of &quot;Allow&quot;. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
-        <translation>Annulla</translation>
+        <translation>Rifiuta</translation>
     </message>
     <message>
         <source>Remote tools</source>
@@ -220,12 +220,12 @@ per gestire questo dispositivo</translation>
     <message>
         <source>You need to login with your Brisel Tavik online account in order to continue</source>
         <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
-        <translation>Per continuare è necessario accedere con l’account online Brisel Tavik</translation>
+        <translation>Per continuare è necessario accedere con&#xa0;l’account&#xa0;online&#xa0;Brisel&#xa0;Tavik</translation>
     </message>
     <message>
         <source>Please login with your Brisel Tavik</source>
         <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
-        <translation>Accedere con l’account Brisel Tavik</translation>
+        <translation>Accedere con l’account Brisel&#xa0;Tavik</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -270,7 +270,7 @@ per gestire questo dispositivo</translation>
     </message>
     <message>
         <source>Computer Administrator (A Windows account with administrative privileges)</source>
-        <translation>Amministratore del computer (account di Windows con privilegi amministrativi)</translation>
+        <translation>Amministratore del computer (account di Windows con privilegi di amministratore)</translation>
     </message>
     <message>
         <source>Ostrel Custom Password</source>
@@ -297,7 +297,7 @@ per gestire questo dispositivo</translation>
     <message>
         <source>Enter password</source>
         <extracomment>Kind of dialog, at the right of the caption</extracomment>
-        <translation>Immetti password</translation>
+        <translation>Immissione password</translation>
     </message>
     <message>
         <source>Administrator password</source>
@@ -822,7 +822,7 @@ Name of the large picture for screen readers</extracomment>
     <name>ServiceDeskTicketDialog</name>
     <message>
         <source>Brisel Tavik: Submit Ticket</source>
-        <translation>Brisel Tavik: Invia ticket</translation>
+        <translation>Brisel Tavik: Invio ticket</translation>
     </message>
     <message>
         <source>Tavik</source>
@@ -835,7 +835,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Issue Summary</source>
-        <translation>Riepilogo problema</translation>
+        <translation>Riepilogo del problema</translation>
     </message>
     <message>
         <source>Department</source>
@@ -847,7 +847,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Issue Details</source>
-        <translation>Dettagli problema</translation>
+        <translation>Dettagli del problema</translation>
     </message>
     <message>
         <source>Include device data (brand, model, serial number, logged on user, domain/workgroup)</source>
@@ -880,7 +880,7 @@ Name of the large picture for screen readers</extracomment>
     <message>
         <source>Submit ticket</source>
         <extracomment>Title of the dialog</extracomment>
-        <translation>Invia ticket</translation>
+        <translation>Invio ticket</translation>
     </message>
     <message>
         <source>Ticket not submitted</source>
@@ -888,7 +888,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Do you want to discard all changes?</source>
-        <translation>Eliminare tutte le modifiche?</translation>
+        <translation>Scartare tutte le modifiche?</translation>
     </message>
     <message>
         <source>Ok</source>
@@ -936,7 +936,7 @@ per continuare</translation>
     <message>
         <source>Enter password</source>
         <extracomment>Kind of dialog, at the right of the caption</extracomment>
-        <translation>Immetti password</translation>
+        <translation>Immissione password</translation>
     </message>
     <message>
         <source>Password</source>

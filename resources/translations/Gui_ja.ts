@@ -35,7 +35,7 @@
     </message>
     <message>
         <source>All rights reserved</source>
-        <translation>無断複写・転載を禁じます</translation>
+        <translation>All rights reserved</translation>
     </message>
     <message>
         <source>Server:</source>
@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>Last communication session: </source>
-        <translation>前回の通信: </translation>
+        <translation>最終通信日時: </translation>
     </message>
     <message>
         <source>Support web-site: </source>
@@ -116,7 +116,7 @@ Name of the large picture for screen readers</extracomment>
     <message>
         <source>Tavik needs to be enrolled
 in order to manage this device</source>
-        <translation>このデバイスを管理するには
+        <translation>このデバイスを管理するには、
 Tavik の登録が必要です</translation>
     </message>
     <message>
@@ -149,7 +149,7 @@ Tavik の登録が必要です</translation>
     </message>
     <message>
         <source>Please set up host, port and token from Device Enrollment email.</source>
-        <translation>デバイス登録メールのホスト、ポート、トークンを入力します。</translation>
+        <translation>登録メールのホスト、ポート、トークンを入力してください。</translation>
     </message>
     <message>
         <source>Close</source>
@@ -172,7 +172,7 @@ Tavik の登録が必要です</translation>
     <message>
         <source>Cancel</source>
         <extracomment>Button: refuses the remote person, the opposite of &quot;Allow&quot;. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
-        <translation>キャンセル</translation>
+        <translation>拒否</translation>
     </message>
     <message>
         <source>Remote tools</source>
@@ -219,13 +219,13 @@ Tavik の登録が必要です</translation>
     <message>
         <source>You need to login with your Brisel Tavik online account in order to continue</source>
         <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
-        <translation>続行するには、Brisel Tavik オンライン アカウントで
+        <translation>続行するには、Brisel&#xa0;Tavik オンライン アカウントで
 ログインする必要があります</translation>
     </message>
     <message>
         <source>Please login with your Brisel Tavik</source>
         <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
-        <translation>Brisel Tavik アカウントでログインしてください</translation>
+        <translation>Brisel&#xa0;Tavik アカウントでログインしてください</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -262,7 +262,7 @@ Tavik の登録が必要です</translation>
     </message>
     <message>
         <source>Please enter your credentials in order to continue</source>
-        <translation>続行するには資格情報を入力してください</translation>
+        <translation>続行するには、資格情報を入力してください</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -270,7 +270,7 @@ Tavik の登録が必要です</translation>
     </message>
     <message>
         <source>Computer Administrator (A Windows account with administrative privileges)</source>
-        <translation>コンピューターの管理者 (管理者特権を持つ Windows アカウント)</translation>
+        <translation>コンピューターの管理者 (管理者権限を持つ Windows アカウント)</translation>
     </message>
     <message>
         <source>Ostrel Custom Password</source>
@@ -393,7 +393,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Automatically download and install program updates</source>
-        <translation>プログラムの更新を自動的にダウンロードしてインストールする</translation>
+        <translation>更新プログラムを自動的にダウンロードしてインストールする</translation>
     </message>
     <message>
         <source>Deactivate ZENT Agent...</source>
@@ -712,12 +712,12 @@ Name of the large picture for screen readers</extracomment>
     <message>
         <source>Upload aborted</source>
         <extracomment>Upload: from the technician to this computer</extracomment>
-        <translation>アップロードが中断されました</translation>
+        <translation>アップロード中断</translation>
     </message>
     <message>
         <source>Upload cancelled</source>
         <extracomment>Upload: from the technician to this computer</extracomment>
-        <translation>アップロードをキャンセル済み</translation>
+        <translation>アップロード取り消し</translation>
     </message>
     <message>
         <source>File downloaded</source>
@@ -727,12 +727,12 @@ Name of the large picture for screen readers</extracomment>
     <message>
         <source>Download aborted</source>
         <extracomment>Download: from this computer to the technician</extracomment>
-        <translation>ダウンロードが中断されました</translation>
+        <translation>ダウンロード中断</translation>
     </message>
     <message>
         <source>Download cancelled</source>
         <extracomment>Download: from this computer to the technician</extracomment>
-        <translation>ダウンロードをキャンセル済み</translation>
+        <translation>ダウンロード取り消し</translation>
     </message>
     <message>
         <source>Folder uploaded</source>
@@ -746,55 +746,55 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>File deleted</source>
-        <translation>ファイルを削除しました</translation>
+        <translation>ファイル削除</translation>
     </message>
     <message>
         <source>File renamed</source>
-        <translation>ファイル名を変更しました</translation>
+        <translation>ファイル名変更</translation>
     </message>
     <message>
         <source>Folder deleted</source>
-        <translation>フォルダーを削除しました</translation>
+        <translation>フォルダー削除</translation>
     </message>
     <message>
         <source>Folder renamed</source>
-        <translation>フォルダー名を変更しました</translation>
+        <translation>フォルダー名変更</translation>
     </message>
     <message>
         <source>Folder created</source>
-        <translation>フォルダーを作成しました</translation>
+        <translation>フォルダー作成</translation>
     </message>
     <message>
         <source>Process ended</source>
-        <translation>プロセスを終了しました</translation>
+        <translation>プロセス終了</translation>
     </message>
     <message>
         <source>Service started</source>
-        <translation>サービスを開始しました</translation>
+        <translation>サービス開始</translation>
     </message>
     <message>
         <source>Service stopped</source>
-        <translation>サービスを停止しました</translation>
+        <translation>サービス停止</translation>
     </message>
     <message>
         <source>Service restarted</source>
-        <translation>サービスを再起動しました</translation>
+        <translation>サービス再起動</translation>
     </message>
     <message>
         <source>Service paused</source>
-        <translation>サービスを一時停止しました</translation>
+        <translation>サービス一時停止</translation>
     </message>
     <message>
         <source>Service resumed</source>
-        <translation>サービスを再開しました</translation>
+        <translation>サービス再開</translation>
     </message>
     <message>
         <source>Session suspended</source>
-        <translation>セッションを中断しました</translation>
+        <translation>セッション一時停止</translation>
     </message>
     <message>
         <source>Session resumed</source>
-        <translation>セッションを再開しました</translation>
+        <translation>セッション再開</translation>
     </message>
     <message>
         <source>Hide window</source>
@@ -919,7 +919,7 @@ Name of the large picture for screen readers</extracomment>
     <message>
         <source>You need to enter Zent Custom Password
 in order to continue</source>
-        <translation>続行するには Zent カスタム パスワードを
+        <translation>続行するには、Zent カスタム パスワードを
 入力する必要があります</translation>
     </message>
     <message>

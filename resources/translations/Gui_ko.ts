@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>Support web-site: </source>
-        <translation>지원 웹 사이트: </translation>
+        <translation>지원 웹사이트: </translation>
     </message>
     <message>
         <source>About</source>
@@ -111,7 +111,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>You need to enroll Tavik by providing host, port and token from Device Enrollment email and pressing &quot;Enroll&quot; button.</source>
-        <translation>장치 등록 이메일에 있는 호스트, 포트, 토큰을 입력하고 [등록] 단추를 눌러 Tavik을 등록해야 합니다.</translation>
+        <translation>장치 등록 이메일에 있는 호스트, 포트, 토큰을 입력하고 [등록] 버튼을 눌러 Tavik을&#xa0;등록해야&#xa0;합니다.</translation>
     </message>
     <message>
         <source>Tavik needs to be enrolled
@@ -172,7 +172,7 @@ Tavik을 등록해야 합니다</translation>
     <message>
         <source>Cancel</source>
         <extracomment>Button: refuses the remote person, the opposite of &quot;Allow&quot;. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
-        <translation>취소</translation>
+        <translation>거부</translation>
     </message>
     <message>
         <source>Remote tools</source>
@@ -192,7 +192,7 @@ Tavik을 등록해야 합니다</translation>
     <message numerus="yes">
         <source>%n second(s) left to answer</source>
         <translation>
-            <numerusform>응답까지 %n초 남았습니다</numerusform>
+            <numerusform>응답 시간이 %n초 남았습니다</numerusform>
         </translation>
     </message>
 </context>
@@ -219,12 +219,12 @@ Tavik을 등록해야 합니다</translation>
     <message>
         <source>You need to login with your Brisel Tavik online account in order to continue</source>
         <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
-        <translation>계속하려면 Brisel Tavik 온라인 계정으로 로그인해야 합니다</translation>
+        <translation>계속하려면 Brisel&#xa0;Tavik 온라인 계정으로 로그인해야 합니다</translation>
     </message>
     <message>
         <source>Please login with your Brisel Tavik</source>
         <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
-        <translation>Brisel Tavik 계정으로 로그인하십시오</translation>
+        <translation>Brisel&#xa0;Tavik 계정으로 로그인하십시오</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -236,7 +236,7 @@ Tavik을 등록해야 합니다</translation>
     </message>
     <message>
         <source>Username:</source>
-        <translation>사용자명:</translation>
+        <translation>사용자:</translation>
     </message>
     <message>
         <source>Close</source>
@@ -283,7 +283,7 @@ Tavik을 등록해야 합니다</translation>
     <message>
         <source>Login:</source>
         <extracomment>Label of the field for the administrator&apos;s account name</extracomment>
-        <translation>사용자명:</translation>
+        <translation>사용자:</translation>
     </message>
     <message>
         <source>Password:</source>
@@ -380,7 +380,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Login:</source>
-        <translation>사용자명:</translation>
+        <translation>사용자:</translation>
     </message>
     <message>
         <source>Password:</source>
@@ -701,7 +701,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Username</source>
-        <translation>사용자명</translation>
+        <translation>사용자 이름</translation>
     </message>
     <message>
         <source>File uploaded</source>
@@ -842,7 +842,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Priority Level</source>
-        <translation>우선 순위</translation>
+        <translation>우선순위</translation>
     </message>
     <message>
         <source>Issue Details</source>
@@ -850,7 +850,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Include device data (brand, model, serial number, logged on user, domain/workgroup)</source>
-        <translation>장치 데이터 포함(브랜드, 모델, 일련 번호, 로그인한 사용자, 도메인/작업 그룹)</translation>
+        <translation>장치 데이터 포함(브랜드, 모델, 일련번호, 로그인한 사용자, 도메인/작업 그룹)</translation>
     </message>
     <message>
         <source>Note: Company, Device Name and Owner are included by default.</source>

@@ -111,7 +111,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>You need to enroll Tavik by providing host, port and token from Device Enrollment email and pressing &quot;Enroll&quot; button.</source>
-        <translation>U moet Tavik inschrijven: voer de host, de poort en het token uit de e-mail voor apparaatinschrijving in en klik op “Inschrijven”.</translation>
+        <translation>U moet Tavik inschrijven: voer de host, de poort en het token uit de e‑mail voor apparaatinschrijving in en klik op “Inschrijven”.</translation>
     </message>
     <message>
         <source>Tavik needs to be enrolled
@@ -149,7 +149,7 @@ om dit apparaat te beheren</translation>
     </message>
     <message>
         <source>Please set up host, port and token from Device Enrollment email.</source>
-        <translation>Voer de host, de poort en het token uit de e-mail voor apparaatinschrijving in.</translation>
+        <translation>Voer de host, de poort en het token uit&#xa0;de&#xa0;e‑mail&#xa0;voor&#xa0;apparaatinschrijving&#xa0;in.</translation>
     </message>
     <message>
         <source>Close</source>
@@ -172,12 +172,12 @@ om dit apparaat te beheren</translation>
     <message>
         <source>Cancel</source>
         <extracomment>Button: refuses the remote person, the opposite of &quot;Allow&quot;. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
-        <translation>Annuleren</translation>
+        <translation>Weigeren</translation>
     </message>
     <message>
         <source>Remote tools</source>
         <extracomment>Kind of remote session in a window title, after the name of the person who asks for it</extracomment>
-        <translation>Hulpprogramma’s op afstand</translation>
+        <translation>Externe hulpprogramma’s</translation>
     </message>
     <message>
         <source>Remote access</source>
@@ -220,12 +220,12 @@ om dit apparaat te beheren</translation>
     <message>
         <source>You need to login with your Brisel Tavik online account in order to continue</source>
         <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
-        <translation>U moet zich aanmelden met uw Brisel Tavik-onlineaccount om door te gaan</translation>
+        <translation>U moet zich aanmelden met uw Brisel&#xa0;Tavik‑onlineaccount om&#xa0;door&#xa0;te&#xa0;gaan</translation>
     </message>
     <message>
         <source>Please login with your Brisel Tavik</source>
         <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
-        <translation>Meld u aan met uw Brisel Tavik-account</translation>
+        <translation>Meld u aan met uw Brisel&#xa0;Tavik-account</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -275,7 +275,7 @@ woord:</translation>
     </message>
     <message>
         <source>Ostrel Custom Password</source>
-        <translation>Aangepast Ostrel-wachtwoord</translation>
+        <translation>Eigen Ostrel-wachtwoord</translation>
     </message>
     <message>
         <source>Domain:</source>
@@ -303,12 +303,12 @@ woord:</translation>
     <message>
         <source>Administrator password</source>
         <extracomment>Name of a field for screen readers</extracomment>
-        <translation>Wachtwoord van beheerder</translation>
+        <translation>Beheerderswachtwoord</translation>
     </message>
     <message>
         <source>Custom password</source>
         <extracomment>Name of a field for screen readers</extracomment>
-        <translation>Aangepast wachtwoord</translation>
+        <translation>Eigen wachtwoord</translation>
     </message>
 </context>
 <context>
@@ -677,7 +677,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Remote Tool Session</source>
-        <translation>Hulpprogramma’s op afstand</translation>
+        <translation>Externe hulpprogramma’s</translation>
     </message>
     <message>
         <source>File Transfer Session</source>
@@ -919,12 +919,12 @@ Name of the large picture for screen readers</extracomment>
     <message>
         <source>You need to enter Zent Custom Password
 in order to continue</source>
-        <translation>U moet het aangepaste Zent-wachtwoord invoeren
+        <translation>U moet uw eigen Zent-wachtwoord invoeren
 om door te gaan</translation>
     </message>
     <message>
         <source>Please enter Zent Custom Password</source>
-        <translation>Voer het aangepaste Zent-wachtwoord in</translation>
+        <translation>Voer uw eigen Zent-wachtwoord in</translation>
     </message>
     <message>
         <source>Cancel</source>

@@ -111,7 +111,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>You need to enroll Tavik by providing host, port and token from Device Enrollment email and pressing &quot;Enroll&quot; button.</source>
-        <translation>Чтобы зарегистрировать Tavik, введите хост, порт и токен из письма о регистрации устройства и нажмите кнопку «Регистрация».</translation>
+        <translation>Чтобы зарегистрировать Tavik, введите хост, порт и токен из&#xa0;письма о&#xa0;регистрации устройства и&#xa0;нажмите кнопку «Регистрация».</translation>
     </message>
     <message>
         <source>Tavik needs to be enrolled
@@ -149,7 +149,7 @@ in order to manage this device</source>
     </message>
     <message>
         <source>Please set up host, port and token from Device Enrollment email.</source>
-        <translation>Введите хост, порт и токен из письма о регистрации устройства.</translation>
+        <translation>Введите хост, порт и токен из&#xa0;письма&#xa0;о&#xa0;регистрации&#xa0;устройства.</translation>
     </message>
     <message>
         <source>Close</source>
@@ -172,7 +172,7 @@ in order to manage this device</source>
     <message>
         <source>Cancel</source>
         <extracomment>Button: refuses the remote person, the opposite of &quot;Allow&quot;. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
-        <translation>Отмена</translation>
+        <translation>Отклонить</translation>
     </message>
     <message>
         <source>Remote tools</source>
@@ -192,9 +192,9 @@ in order to manage this device</source>
     <message numerus="yes">
         <source>%n second(s) left to answer</source>
         <translation>
-            <numerusform>Осталась %n секунда на ответ</numerusform>
-            <numerusform>Осталось %n секунды на ответ</numerusform>
-            <numerusform>Осталось %n секунд на ответ</numerusform>
+            <numerusform>На ответ осталась %n секунда</numerusform>
+            <numerusform>На ответ осталось %n секунды</numerusform>
+            <numerusform>На ответ осталось %n секунд</numerusform>
         </translation>
     </message>
 </context>
@@ -221,12 +221,12 @@ in order to manage this device</source>
     <message>
         <source>You need to login with your Brisel Tavik online account in order to continue</source>
         <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
-        <translation>Чтобы продолжить, войдите в свою сетевую учетную запись Brisel Tavik</translation>
+        <translation>Чтобы продолжить, войдите в&#xa0;свой&#xa0;онлайн‑аккаунт&#xa0;Brisel&#xa0;Tavik</translation>
     </message>
     <message>
         <source>Please login with your Brisel Tavik</source>
         <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
-        <translation>Войдите с учетной записью Brisel Tavik</translation>
+        <translation>Войдите в аккаунт Brisel&#xa0;Tavik</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -708,17 +708,17 @@ Name of the large picture for screen readers</extracomment>
     <message>
         <source>File uploaded</source>
         <extracomment>Upload: from the technician to this computer</extracomment>
-        <translation>Файл отправлен</translation>
+        <translation>Файл загружен</translation>
     </message>
     <message>
         <source>Upload aborted</source>
         <extracomment>Upload: from the technician to this computer</extracomment>
-        <translation>Отправка прервана</translation>
+        <translation>Загрузка прервана</translation>
     </message>
     <message>
         <source>Upload cancelled</source>
         <extracomment>Upload: from the technician to this computer</extracomment>
-        <translation>Отправка отменена</translation>
+        <translation>Загрузка отменена</translation>
     </message>
     <message>
         <source>File downloaded</source>
@@ -738,7 +738,7 @@ Name of the large picture for screen readers</extracomment>
     <message>
         <source>Folder uploaded</source>
         <extracomment>Upload: from the technician to this computer</extracomment>
-        <translation>Папка отправлена</translation>
+        <translation>Папка загружена</translation>
     </message>
     <message>
         <source>Folder downloaded</source>
@@ -852,11 +852,11 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Include device data (brand, model, serial number, logged on user, domain/workgroup)</source>
-        <translation>Включить данные об устройстве (марка, модель, серийный номер, текущий пользователь, домен/рабочая группа)</translation>
+        <translation>Приложить данные об устройстве (марка, модель, серийный номер, текущий пользователь, домен/рабочая группа)</translation>
     </message>
     <message>
         <source>Note: Company, Device Name and Owner are included by default.</source>
-        <translation>Примечание. Организация, имя устройства и владелец включаются по умолчанию.</translation>
+        <translation>Примечание. Организация, имя устройства и владелец указываются по умолчанию.</translation>
     </message>
     <message>
         <source>Submit</source>

@@ -5,7 +5,7 @@
     <name>AboutDialog</name>
     <message>
         <source>Brisel Tavik About</source>
-        <translation>Brisel Tavik Hakkında</translation>
+        <translation>Brisel Tavik hakkında</translation>
     </message>
     <message>
         <source>Tavik</source>
@@ -111,7 +111,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>You need to enroll Tavik by providing host, port and token from Device Enrollment email and pressing &quot;Enroll&quot; button.</source>
-        <translation>Tavik’i kaydetmek için cihaz kaydı e-postasındaki sunucu, port ve belirteç bilgilerini girip “Kaydol” düğmesine basmanız gerekir.</translation>
+        <translation>Tavik’i kaydetmek için cihaz kaydı e‑postasındaki sunucu, port ve belirteç bilgilerini girip “Cihazı&#xa0;kaydet” düğmesine basmanız gerekir.</translation>
     </message>
     <message>
         <source>Tavik needs to be enrolled
@@ -130,7 +130,7 @@ Tavik’in kaydedilmesi gerekir</translation>
     <message>
         <source>Enroll</source>
         <extracomment>Both the kind of dialog in its caption and the button that enrolls the device</extracomment>
-        <translation>Kaydol</translation>
+        <translation>Cihazı kaydet</translation>
     </message>
     <message>
         <source>Host:</source>
@@ -149,7 +149,7 @@ Tavik’in kaydedilmesi gerekir</translation>
     </message>
     <message>
         <source>Please set up host, port and token from Device Enrollment email.</source>
-        <translation>Lütfen cihaz kaydı e-postasındaki sunucu, port ve belirteç bilgilerini girin.</translation>
+        <translation>Lütfen cihaz kaydı e‑postasındaki sunucu,&#xa0;port&#xa0;ve&#xa0;belirteç&#xa0;bilgilerini&#xa0;girin.</translation>
     </message>
     <message>
         <source>Close</source>
@@ -172,7 +172,7 @@ Tavik’in kaydedilmesi gerekir</translation>
     <message>
         <source>Cancel</source>
         <extracomment>Button: refuses the remote person, the opposite of &quot;Allow&quot;. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
-        <translation>İptal</translation>
+        <translation>Reddet</translation>
     </message>
     <message>
         <source>Remote tools</source>
@@ -200,7 +200,7 @@ Tavik’in kaydedilmesi gerekir</translation>
     <name>AuthorizationDialog</name>
     <message>
         <source>Brisel Tavik Login</source>
-        <translation>Brisel Tavik – Oturum aç</translation>
+        <translation>Brisel Tavik – Oturum açma</translation>
     </message>
     <message>
         <source>Forgot username or password?</source>
@@ -219,12 +219,12 @@ Tavik’in kaydedilmesi gerekir</translation>
     <message>
         <source>You need to login with your Brisel Tavik online account in order to continue</source>
         <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
-        <translation>Devam etmek için Brisel Tavik çevrimiçi hesabınızla oturum açmanız gerekir</translation>
+        <translation>Devam etmek için Brisel&#xa0;Tavik çevrimiçi hesabınızla oturum&#xa0;açmanız&#xa0;gerekir</translation>
     </message>
     <message>
         <source>Please login with your Brisel Tavik</source>
         <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
-        <translation>Lütfen Brisel Tavik hesabınızla oturum açın</translation>
+        <translation>Lütfen Brisel&#xa0;Tavik hesabınızla oturum açın</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -296,7 +296,7 @@ Tavik’in kaydedilmesi gerekir</translation>
     <message>
         <source>Enter password</source>
         <extracomment>Kind of dialog, at the right of the caption</extracomment>
-        <translation>Parola girin</translation>
+        <translation>Parola girişi</translation>
     </message>
     <message>
         <source>Administrator password</source>
@@ -671,7 +671,7 @@ Name of the large picture for screen readers</extracomment>
     <name>RemoteConnectionDialog</name>
     <message>
         <source>Remote Control by Corvane</source>
-        <translation>Corvane Uzaktan Denetim</translation>
+        <translation>Corvane uzaktan denetimi</translation>
     </message>
     <message>
         <source>Remote Tool Session</source>
@@ -821,7 +821,7 @@ Name of the large picture for screen readers</extracomment>
     <name>ServiceDeskTicketDialog</name>
     <message>
         <source>Brisel Tavik: Submit Ticket</source>
-        <translation>Brisel Tavik: Talep gönder</translation>
+        <translation>Brisel Tavik: Talep gönderme</translation>
     </message>
     <message>
         <source>Tavik</source>
@@ -869,17 +869,17 @@ Name of the large picture for screen readers</extracomment>
     <message>
         <source>Required</source>
         <extracomment>Placeholder of an empty field that must be filled in</extracomment>
-        <translation>Gerekli</translation>
+        <translation>Zorunlu</translation>
     </message>
     <message>
         <source>Required (max. %1 chars)</source>
         <extracomment>Placeholder of an empty field that must be filled in</extracomment>
-        <translation>Gerekli (en fazla %1 karakter)</translation>
+        <translation>Zorunlu (en fazla %1 karakter)</translation>
     </message>
     <message>
         <source>Submit ticket</source>
         <extracomment>Title of the dialog</extracomment>
-        <translation>Talep gönder</translation>
+        <translation>Talep gönderme</translation>
     </message>
     <message>
         <source>Ticket not submitted</source>
@@ -887,7 +887,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Do you want to discard all changes?</source>
-        <translation>Tüm değişiklikler atılsın mı?</translation>
+        <translation>Tüm değişikliklerden vazgeçilsin mi?</translation>
     </message>
     <message>
         <source>Ok</source>
@@ -904,7 +904,7 @@ Name of the large picture for screen readers</extracomment>
     <name>ZentPasswordDialog</name>
     <message>
         <source>Brisel Tavik Login</source>
-        <translation>Brisel Tavik – Oturum aç</translation>
+        <translation>Brisel Tavik – Oturum açma</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -935,7 +935,7 @@ Zent özel parolasını girmeniz gerekir</translation>
     <message>
         <source>Enter password</source>
         <extracomment>Kind of dialog, at the right of the caption</extracomment>
-        <translation>Parola girin</translation>
+        <translation>Parola girişi</translation>
     </message>
     <message>
         <source>Password</source>

@@ -172,7 +172,7 @@ in order to manage this device</source>
     <message>
         <source>Cancel</source>
         <extracomment>Button: refuses the remote person, the opposite of &quot;Allow&quot;. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
-        <translation>取消</translation>
+        <translation>拒绝</translation>
     </message>
     <message>
         <source>Remote tools</source>
@@ -192,7 +192,7 @@ in order to manage this device</source>
     <message numerus="yes">
         <source>%n second(s) left to answer</source>
         <translation>
-            <numerusform>还剩 %n 秒可供应答</numerusform>
+            <numerusform>剩余应答时间：%n 秒</numerusform>
         </translation>
     </message>
 </context>
@@ -219,12 +219,12 @@ in order to manage this device</source>
     <message>
         <source>You need to login with your Brisel Tavik online account in order to continue</source>
         <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
-        <translation>您需要使用 Brisel Tavik 在线帐户登录才能继续</translation>
+        <translation>您需要使用 Brisel&#xa0;Tavik 在线帐户登录才能继续</translation>
     </message>
     <message>
         <source>Please login with your Brisel Tavik</source>
         <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
-        <translation>请使用您的 Brisel Tavik 帐户登录</translation>
+        <translation>请使用您的 Brisel&#xa0;Tavik 帐户登录</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -269,7 +269,7 @@ in order to manage this device</source>
     </message>
     <message>
         <source>Computer Administrator (A Windows account with administrative privileges)</source>
-        <translation>计算机管理员（具有管理权限的 Windows 帐户）</translation>
+        <translation>计算机管理员（具有管理员权限的 Windows 帐户）</translation>
     </message>
     <message>
         <source>Ostrel Custom Password</source>
@@ -789,7 +789,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Session suspended</source>
-        <translation>会话已挂起</translation>
+        <translation>会话已暂停</translation>
     </message>
     <message>
         <source>Session resumed</source>
@@ -850,11 +850,11 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Include device data (brand, model, serial number, logged on user, domain/workgroup)</source>
-        <translation>包括设备数据（品牌、型号、序列号、登录用户、域/工作组）</translation>
+        <translation>包括设备数据（品牌、型号、序列号、当前登录的用户、域/工作组）</translation>
     </message>
     <message>
         <source>Note: Company, Device Name and Owner are included by default.</source>
-        <translation>注意：默认包括公司、设备名称和所有者。</translation>
+        <translation>注：默认包含公司、设备名称和所有者。</translation>
     </message>
     <message>
         <source>Submit</source>
