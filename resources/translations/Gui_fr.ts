@@ -714,7 +714,7 @@ Name of the large picture for screen readers</extracomment>
     <message>
         <source>Upload aborted</source>
         <extracomment>Upload: from the technician to this computer</extracomment>
-        <translation>Téléversement interrompu</translation>
+        <translation>Téléversement arrêté</translation>
     </message>
     <message>
         <source>Upload cancelled</source>
@@ -729,7 +729,7 @@ Name of the large picture for screen readers</extracomment>
     <message>
         <source>Download aborted</source>
         <extracomment>Download: from this computer to the technician</extracomment>
-        <translation>Téléchargement interrompu</translation>
+        <translation>Téléchargement arrêté</translation>
     </message>
     <message>
         <source>Download cancelled</source>
