@@ -152,16 +152,6 @@ const QString& ApproveRemoteConnectionDialog::getConnectionId() const
     return connectionId;
 }
 
-void ApproveRemoteConnectionDialog::setRatio(float ratio)
-{
-    ratio = usableRatio(ratio);
-    if (ratio == 1.0F)
-        return;
-    const QPoint topLeft = topLeftAtRatio(ratio);
-    scaleSizeLimits(this, ratio);
-    move(topLeft);
-}
-
 void ApproveRemoteConnectionDialog::setVisible(bool visible)
 {
     if (!visible)
@@ -205,6 +195,13 @@ void ApproveRemoteConnectionDialog::on_cancelButton_clicked()
 void ApproveRemoteConnectionDialog::setupWindow()
 {
     setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowStaysOnTopHint | Qt::CustomizeWindowHint);
+}
+
+void ApproveRemoteConnectionDialog::scaleBy(float ratio)
+{
+    const QPoint topLeft = topLeftAtRatio(ratio);
+    scaleSizeLimits(this, ratio);
+    move(topLeft);
 }
 
 void ApproveRemoteConnectionDialog::refreshCountdown()

@@ -39,7 +39,6 @@ public:
     void setConnectionId(const QString& id) override;
     const QString& getConnectionId() const override;
 
-    void setRatio(float ratio) override;
     /// Starts the countdown with the window, whether it appears through show() or exec(), and stops it with the window.
     void setVisible(bool visible) override;
     /// Nothing: only the two buttons and the countdown answer.
@@ -56,6 +55,7 @@ public Q_SLOTS:
 
 protected:
     void setupWindow() override;
+    void scaleBy(float ratio) override;
 
 private:
     void refreshCountdown();

@@ -73,17 +73,13 @@ int BaseDialog::exec()
 
 void BaseDialog::setRatio(float ratio)
 {
-    ratio = usableRatio(ratio);
-    if (ratio == 1.0F)
+    if (!std::isfinite(ratio) || ratio <= 0.0F)
         return;
-
-    const QList<QWidget*> children = findChildren<QWidget*>();
-    move(topLeftAtRatio(ratio));
-    resize(scaled(size(), ratio));
-    for (QWidget* child : children) {
-        child->resize(scaled(child->size(), ratio));
-        child->move(scaled(child->pos(), ratio));
-    }
+    const int longest = qMax(width(), height());
+    if (longest > 0)
+        ratio = qMin(ratio, static_cast<float>(longestSide) / static_cast<float>(longest));
+    if (ratio != 1.0F)
+        scaleBy(ratio);
 }
 
 void BaseDialog::mousePressEvent(QMouseEvent* event)
@@ -148,12 +144,15 @@ void BaseDialog::setTitle(const QString& title)
     setWindowTitle(literalWindowTitle(caption));
 }
 
-float BaseDialog::usableRatio(float ratio) const
+void BaseDialog::scaleBy(float ratio)
 {
-    if (!std::isfinite(ratio) || ratio <= 0.0F)
-        return 1.0F;
-    const int longest = qMax(width(), height());
-    return longest > 0 ? qMin(ratio, static_cast<float>(longestSide) / static_cast<float>(longest)) : ratio;
+    const QList<QWidget*> children = findChildren<QWidget*>();
+    move(topLeftAtRatio(ratio));
+    resize(scaled(size(), ratio));
+    for (QWidget* child : children) {
+        child->resize(scaled(child->size(), ratio));
+        child->move(scaled(child->pos(), ratio));
+    }
 }
 
 QPoint BaseDialog::topLeftAtRatio(float ratio) const

@@ -45,10 +45,12 @@ protected:
     /// Sets window title and tool tip.
     virtual void setTitle(const QString& title);
 
+    /// Scales the window about its centre, and all widgets in it. setRatio() has checked @p ratio and calls this only
+    /// when there is something to change.
+    virtual void scaleBy(float ratio);
+
     // For dialogs whose layouts place the widgets and which therefore scale limits instead of geometries.
 
-    /// @p ratio within the limits of setRatio(): 1 when it must change nothing.
-    float usableRatio(float ratio) const;
     /// Where the dialog's top-left corner goes when it is scaled about its centre.
     QPoint topLeftAtRatio(float ratio) const;
     /// Scales the size limits and layout margins of @p root and all widgets in it.
