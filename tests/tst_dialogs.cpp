@@ -1,8 +1,12 @@
 #include "GuiTest.h"
 
 #include <QJsonDocument>
+#include <QLineEdit>
 #include <QMetaEnum>
+#include <QPushButton>
 #include <QScreen>
+
+#include <algorithm>
 
 /// What each dialog, those of remote sessions aside, reports for clicks, keys, slots and requests to close, where Tab
 /// leads, what it holds at first, and what kind of window it is.
@@ -127,24 +131,65 @@ void DialogsTest::events()
 
 void DialogsTest::shownAgain_data()
 {
-    textColumns({"family", "event"});
-    textRow({"ErrorMessageDialog", "evTryAgain"});
-    textRow({"ProgressDialog", ""});
+    textColumns({"family", "values", "start"});
+    textRow({"ErrorMessageDialog", "", "ErrorMessageDialog"});
+    textRow({"AcceptMessageDialog", "", "btnMessageInnerButton"});
+    textRow({"ProgressDialog", "", "ProgressDialog"});
+    textRow({"RebootDialog", "", "timeoutComboBox"});
+    textRow({"AboutDialog", "", "btnOk"});
+    textRow({"AuthorizationDialog", R"({"password": "x"})", "edEmail"});
+    textRow({"AuthorizationDialog", R"({"username": "anna"})", "edPassword"});
+    textRow({"AuthorizationDialog", R"({"username": "anna", "password": "x"})", "edPassword selected"});
+    textRow({"ActivationDialog", R"({"token": "x"})", "edHost"});
+    textRow({"ActivationDialog", R"({"serverUrl": "https://a", "token": "x"})", "edHost selected"});
+    textRow({"ZentPasswordDialog", R"({"password": "x"})", "edPassword selected"});
+    textRow({"EnterPasswordDialog", R"({"domain": "d"})", "editLogin"});
+    textRow({"EnterPasswordDialog", R"({"domain": "d", "login": "l", "administratorPassword": "x"})",
+             "editAdministratorPassword selected"});
+    textRow({"EnterPasswordDialog", R"({"accessMode": 1, "zentPassword": "x"})", "editZentPassword selected"});
+    textRow({"OptionDialog", "", "chkShowIcon"});
+    textRow({"ServiceDeskTicketDialog", R"({"issueDetails": "d"})", "edSubject"});
+    textRow({"ServiceDeskTicketDialog", R"({"subject": "s"})", "txIssueDetails"});
+    textRow({"ApproveRemoteConnectionDialog", R"({"countdown": 30})", "cancelButton"});
 }
 
 void DialogsTest::shownAgain()
 {
     QFETCH(QString, family);
-    QFETCH(QString, event);
+    QFETCH(QString, values);
     IBaseDialog* dialog = get(family);
-    showActive(dialog);
-    // A dialog is kept and shown for the next occasion. What the person did last time is no answer this time.
-    click(dialog, "btnCancel");
-    takeEvents();
-    dialog->hide();
-    showActive(dialog);
-    checkEvents(dialog, QStringLiteral("Return"), event);
-    checkEvents(dialog, QStringLiteral("Space"), QString());
+    preset(dialog, family, values);
+    QWidget& top = window(dialog);
+    const auto buttons = top.findChildren<QPushButton*>();
+    const auto defaultButton = [&] {
+        return std::find_if(buttons.begin(), buttons.end(), std::mem_fn(&QPushButton::isDefault));
+    };
+    const auto start = [&] {
+        showActive(dialog);
+        const auto* edit = qobject_cast<QLineEdit*>(top.focusWidget());
+        const bool selected = edit && edit->hasSelectedText() && edit->selectionLength() == edit->text().size();
+        return top.focusWidget()->objectName() + QLatin1String(selected ? " selected" : "");
+    };
+    QTEST(start(), "start");
+    const auto firstDefault = defaultButton();
+    // Whatever was used last, also while the window was not active: the next key is no part of that answer.
+    for (QWidget* used : top.findChildren<QWidget*>()) {
+        auto* button = qobject_cast<QAbstractButton*>(used);
+        if (!button && used->focusPolicy() == Qt::NoFocus)
+            continue;
+        for (const bool active : {true, false}) {
+            QWidget other;
+            if (!active)
+                other.show();
+            QVERIFY(QTest::qWaitForWindowActive(active ? &top : &other));
+            used->setFocus();
+            if (button)
+                button->setDown(true);
+            dialog->hide();
+            QTEST(start(), "start");
+            QVERIFY(defaultButton() == firstDefault && !(button && button->isDown()));
+        }
+    }
 }
 
 void DialogsTest::tabOrders_data()

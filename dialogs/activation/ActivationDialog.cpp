@@ -68,7 +68,6 @@ ActivationDialog::ActivationDialog(QWidget* parent) : BaseDialog(parent), ui(new
 
     auto* pasteShortcut = new QShortcut(QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_V), this);
     connect(pasteShortcut, &QShortcut::activated, this, &ActivationDialog::slPasteEnrollDataFromClipboard);
-    ui->edHost->setFocus();
 }
 
 ActivationDialog::~ActivationDialog() = default;
@@ -143,6 +142,11 @@ void ActivationDialog::slPasteEnrollDataFromClipboard()
 {
     if (const auto link = findEnrollmentLink(QGuiApplication::clipboard()->text()))
         fill(*link);
+}
+
+QWidget* ActivationDialog::startWidget()
+{
+    return firstEmpty({ui->edHost, ui->edPort, ui->edToken}, ui->edHost);
 }
 
 void ActivationDialog::watchInsertions(QLineEdit* edit)

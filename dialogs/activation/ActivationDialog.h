@@ -38,6 +38,9 @@ public Q_SLOTS:
     void slActivate();
     void slPasteEnrollDataFromClipboard();
 
+protected:
+    QWidget* startWidget() override;
+
 private:
     /// Lets @p edit take an enrollment link for all fields, however the person gets it there.
     void watchInsertions(QLineEdit* edit);

@@ -51,7 +51,6 @@ ApproveRemoteConnectionDialog::ApproveRemoteConnectionDialog(QWidget* parent)
     setAttribute(Qt::WA_TranslucentBackground, false);
     setAttribute(Qt::WA_NoSystemBackground, false);
     ApproveRemoteConnectionDialog::setupWindow();
-    ui->cancelButton->setFocus();
 
     countdownTimer.setInterval(1000);
     connect(&countdownTimer, &QTimer::timeout, this, &ApproveRemoteConnectionDialog::slCountdownTimerTick);
@@ -202,6 +201,11 @@ void ApproveRemoteConnectionDialog::scaleBy(float ratio)
     const QPoint topLeft = topLeftAtRatio(ratio);
     scaleSizeLimits(this, ratio);
     move(topLeft);
+}
+
+QWidget* ApproveRemoteConnectionDialog::startWidget()
+{
+    return ui->cancelButton;
 }
 
 void ApproveRemoteConnectionDialog::refreshCountdown()

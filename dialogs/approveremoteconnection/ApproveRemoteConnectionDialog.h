@@ -54,6 +54,7 @@ public Q_SLOTS:
     void on_cancelButton_clicked();
 
 protected:
+    QWidget* startWidget() override;
     void setupWindow() override;
     void scaleBy(float ratio) override;
 

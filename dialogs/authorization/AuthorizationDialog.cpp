@@ -39,7 +39,6 @@ AuthorizationDialog::AuthorizationDialog(QWidget* parent) : BaseDialog(parent), 
     connect(ui->lblWebLink, &QLabel::linkActivated, this, &AuthorizationDialog::goToWeb);
 
     setWindowFlag(Qt::WindowStaysOnTopHint);
-    ui->edEmail->setFocus();
 }
 
 AuthorizationDialog::~AuthorizationDialog()
@@ -106,6 +105,11 @@ void AuthorizationDialog::slLogin()
 {
     if (isInputValid())
         Q_EMIT dialogEvent(this, evLogin);
+}
+
+QWidget* AuthorizationDialog::startWidget()
+{
+    return firstEmpty({ui->edEmail, ui->edPassword}, ui->edPassword);
 }
 
 bool AuthorizationDialog::isInputValid() const

@@ -3,15 +3,18 @@
 #include "BrandingStrings.h"
 #include "DisplayText.h"
 
+#include <QAbstractButton>
 #include <QCloseEvent>
 #include <QFont>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLayout>
+#include <QLineEdit>
 #include <QMouseEvent>
 #include <QScreen>
 
+#include <algorithm>
 #include <cmath>
 
 // Initialised while the library is being loaded, which is also when the branding file is read.
@@ -114,6 +117,14 @@ void BaseDialog::closeEvent(QCloseEvent* event)
         QDialog::closeEvent(event);
 }
 
+void BaseDialog::showEvent(QShowEvent* event)
+{
+    // Spontaneous events come from the window system, which restores what the person has minimised.
+    if (!event->spontaneous())
+        startAfresh();
+    QDialog::showEvent(event);
+}
+
 void BaseDialog::setupWindow()
 {
     setAttribute(Qt::WA_TranslucentBackground);
@@ -159,6 +170,38 @@ QPoint BaseDialog::topLeftAtRatio(float ratio) const
 {
     const float growth = ratio - 1.0F;
     return {truncated(x() - width() * growth * 0.5F), truncated(y() - height() * growth * 0.5F)};
+}
+
+QWidget* BaseDialog::startWidget()
+{
+    return this;
+}
+
+QLineEdit* BaseDialog::firstEmpty(std::initializer_list<QLineEdit*> fields, QLineEdit* otherwise)
+{
+    const auto isEmpty = [](const QLineEdit* field) { return field->text().isEmpty(); };
+    const auto* const first = std::find_if(fields.begin(), fields.end(), isEmpty);
+    return first != fields.end() ? *first : otherwise;
+}
+
+void BaseDialog::startAfresh()
+{
+    dragPosition = QPoint();
+    // In a window that is not active the focus moves without focus events. Without one the button used last would stay
+    // the default button, and the link used last would stay selected.
+    QWidget* const last = focusWidget();
+    if (last && !last->hasFocus()) {
+        QFocusEvent focusOut(QEvent::FocusOut, Qt::OtherFocusReason);
+        QCoreApplication::sendEvent(last, &focusOut);
+    }
+    const auto buttons = findChildren<QAbstractButton*>();
+    for (QAbstractButton* button : buttons)
+        button->setDown(false);
+
+    QWidget* const start = startWidget();
+    (start->isEnabled() ? start : this)->setFocus(Qt::OtherFocusReason);
+    if (auto* field = qobject_cast<QLineEdit*>(start))
+        field->selectAll();
 }
 
 void BaseDialog::scaleSizeLimits(QWidget* root, float ratio)

@@ -2,8 +2,6 @@
 
 #include "ui_EnterPasswordDialog.h"
 
-#include <QShowEvent>
-
 namespace {
 enum AccessMode {
     AdministratorOnly = 0,
@@ -125,15 +123,12 @@ void EnterPasswordDialog::accept()
     onOkClicked();
 }
 
-void EnterPasswordDialog::showEvent(QShowEvent* event)
+QWidget* EnterPasswordDialog::startWidget()
 {
-    // Which field is the first one to type into depends on what the host has set meanwhile. The choice may have stayed
-    // with a way that is not offered any more.
-    if (!event->spontaneous()) {
-        const bool custom = isCustomPasswordSelected() && ui->editZentPassword->isEnabled();
-        (custom ? ui->editZentPassword : ui->editDomain)->setFocus();
-    }
-    BaseDialog::showEvent(event);
+    // The checked option may be disabled by now.
+    if (isCustomPasswordSelected() && ui->editZentPassword->isEnabled())
+        return ui->editZentPassword;
+    return firstEmpty({ui->editDomain, ui->editLogin, ui->editAdministratorPassword}, ui->editAdministratorPassword);
 }
 
 void EnterPasswordDialog::applyAccessMode()

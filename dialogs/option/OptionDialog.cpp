@@ -147,3 +147,8 @@ void OptionDialog::reject()
 {
     slClose();
 }
+
+QWidget* OptionDialog::startWidget()
+{
+    return ui->chkShowIcon;
+}

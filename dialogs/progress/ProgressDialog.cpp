@@ -138,13 +138,6 @@ void ProgressDialog::reject()
     slClose();
 }
 
-void ProgressDialog::showEvent(QShowEvent* event)
-{
-    // Whoever is typing when the dialog appears must not cancel the work: a focused Cancel would take Return and Space.
-    setFocus();
-    BaseDialog::showEvent(event);
-}
-
 std::shared_ptr<ProgressDialog::FramePictures> ProgressDialog::sharedFramePictures()
 {
     // Shared by all dialogs and freed with the last one: pictures must not outlive the application.

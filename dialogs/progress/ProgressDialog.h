@@ -44,9 +44,6 @@ public Q_SLOTS:
     void accept() override;
     void reject() override;
 
-protected:
-    void showEvent(QShowEvent* event) override;
-
 private:
     static constexpr int frameCount = 24;
     /// Read from their files once, and kept with their palettes: as pixmaps they would take 25 megabytes, not 6.

@@ -110,11 +110,10 @@ void RebootDialog::closed()
     Q_EMIT dialogEvent(this, evClosed);
 }
 
-void RebootDialog::showEvent(QShowEvent* event)
+QWidget* RebootDialog::startWidget()
 {
-    // The reminder comes back in the middle of somebody's typing, and a Space on the button used last would restart.
-    ui->timeoutComboBox->setFocus(Qt::OtherFocusReason);
-    BaseDialog::showEvent(event);
+    // The dialog may appear while the person types; Space opens a list here and must not press the button used last.
+    return ui->timeoutComboBox;
 }
 
 void RebootDialog::keyPressEvent(QKeyEvent* event)

@@ -17,7 +17,6 @@ ZentPasswordDialog::ZentPasswordDialog(QWidget* parent) : BaseDialog(parent), ui
     connect(ui->btnCancel, &QPushButton::clicked, this, &ZentPasswordDialog::slClose);
 
     setModal(true);
-    ui->edPassword->setFocus();
 }
 
 ZentPasswordDialog::~ZentPasswordDialog() = default;
@@ -61,6 +60,11 @@ void ZentPasswordDialog::slContinue()
 {
     if (hasPassword())
         Q_EMIT dialogEvent(this, evContinue);
+}
+
+QWidget* ZentPasswordDialog::startWidget()
+{
+    return ui->edPassword;
 }
 
 bool ZentPasswordDialog::hasPassword() const
