@@ -1,12 +1,11 @@
 #include "GuiTest.h"
 
+#include <QAbstractButton>
 #include <QJsonDocument>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMetaEnum>
-#include <QPushButton>
 #include <QScreen>
-
-#include <algorithm>
 
 /// What each dialog, those of remote sessions aside, reports for clicks, keys, slots and requests to close, where Tab
 /// leads, what it holds at first, and what kind of window it is.
@@ -160,10 +159,6 @@ void DialogsTest::shownAgain()
     IBaseDialog* dialog = get(family);
     preset(dialog, family, values);
     QWidget& top = window(dialog);
-    const auto buttons = top.findChildren<QPushButton*>();
-    const auto defaultButton = [&] {
-        return std::find_if(buttons.begin(), buttons.end(), std::mem_fn(&QPushButton::isDefault));
-    };
     const auto start = [&] {
         showActive(dialog);
         const auto* edit = qobject_cast<QLineEdit*>(top.focusWidget());
@@ -171,10 +166,10 @@ void DialogsTest::shownAgain()
         return top.focusWidget()->objectName() + QLatin1String(selected ? " selected" : "");
     };
     QTEST(start(), "start");
-    const auto firstDefault = defaultButton();
     // Whatever was used last, also while the window was not active: the next key is no part of that answer.
     for (QWidget* used : top.findChildren<QWidget*>()) {
         auto* button = qobject_cast<QAbstractButton*>(used);
+        const auto* label = qobject_cast<QLabel*>(used);
         if (!button && used->focusPolicy() == Qt::NoFocus)
             continue;
         for (const bool active : {true, false}) {
@@ -187,7 +182,7 @@ void DialogsTest::shownAgain()
                 button->setDown(true);
             dialog->hide();
             QTEST(start(), "start");
-            QVERIFY(defaultButton() == firstDefault && !(button && button->isDown()));
+            QVERIFY(!(button && button->isDown()) && !(label && label->hasSelectedText()));
         }
     }
 }

@@ -187,8 +187,7 @@ QLineEdit* BaseDialog::firstEmpty(std::initializer_list<QLineEdit*> fields, QLin
 void BaseDialog::startAfresh()
 {
     dragPosition = QPoint();
-    // In a window that is not active the focus moves without focus events. Without one the button used last would stay
-    // the default button, and the link used last would stay selected.
+    // In a window that is not active the focus moves without focus events, and the link used last would stay selected.
     QWidget* const last = focusWidget();
     if (last && !last->hasFocus()) {
         QFocusEvent focusOut(QEvent::FocusOut, Qt::OtherFocusReason);
