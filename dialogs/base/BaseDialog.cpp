@@ -71,6 +71,9 @@ void BaseDialog::done(int result)
 
 int BaseDialog::exec()
 {
+    // A window becomes modal only when it appears.
+    if (isVisible() && !isModal())
+        QDialog::hide();
     return QDialog::exec();
 }
 
@@ -97,8 +100,10 @@ void BaseDialog::mouseReleaseEvent(QMouseEvent*)
 
 void BaseDialog::mouseMoveEvent(QMouseEvent* event)
 {
+    // move() places the frame, where the window has one; the mouse is measured from within it.
+    const QPoint frame = geometry().topLeft() - pos();
     if (!dragPosition.isNull())
-        move(event->globalPos() - dragPosition);
+        move(event->globalPos() - dragPosition - frame);
 }
 
 void BaseDialog::keyPressEvent(QKeyEvent* event)
