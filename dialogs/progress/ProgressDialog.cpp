@@ -25,7 +25,7 @@ int tenthInMsecs(float seconds)
 
 int ProgressDialog::nextFrame = 0;
 
-ProgressDialog::ProgressDialog(QWidget* parent)
+ProgressDialog::ProgressDialog(const QString& message, QWidget* parent)
     : BaseDialog(parent), ui(new Ui::ProgressDialog), animationTimer(new QTimer(this)), waiterTimer(new QTimer(this))
 {
     ui->setupUi(this);
@@ -37,7 +37,7 @@ ProgressDialog::ProgressDialog(QWidget* parent)
     connect(ui->btnCancel, &QPushButton::clicked, this, &ProgressDialog::slCancel);
     connect(ui->btnClose, &QPushButton::clicked, this, &ProgressDialog::slCancel);
     connect(this, &ProgressDialog::progressChanged, this, &ProgressDialog::showProgress);
-    ui->lblMessage->clear();
+    ui->lblMessage->setText(message);
 
     for (int i = 0; i < frameCount; ++i)
         framePaths[static_cast<size_t>(i)] = QStringLiteral(":/images/progress bar/%1.png").arg(i + 1);
@@ -121,7 +121,7 @@ void ProgressDialog::slWaiterTimer()
     const int value = timer->property(waiterValue).toInt();
     setProgress(static_cast<unsigned int>(value), 100);
     if (timer->property(waiterValue).toInt() != value)
-        return; // Started over by whom the progress was told.
+        return; // A slot of progressChanged() has called startWaiter() again.
     const int nextValue = value + waiterStep;
     if (nextValue > 100) {
         timer->stop();
