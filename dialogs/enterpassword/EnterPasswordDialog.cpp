@@ -19,6 +19,11 @@ EnterPasswordDialog::EnterPasswordDialog(QWidget* parent) : BaseDialog(parent), 
     setAccessMode(EitherWay);
     setCustomPasswordSelected(false);
 
+    // Typing into a way's field chooses that way.
+    for (const QLineEdit* edit :
+         {ui->editDomain, ui->editLogin, static_cast<QLineEdit*>(ui->editAdministratorPassword)})
+        connect(edit, &QLineEdit::textEdited, this, [this] { setCustomPasswordSelected(false); });
+    connect(ui->editZentPassword, &QLineEdit::textEdited, this, [this] { setCustomPasswordSelected(true); });
     connect(ui->buttonOk, &QPushButton::clicked, this, &EnterPasswordDialog::onOkClicked);
     connect(ui->buttonCancel, &QPushButton::clicked, this, &EnterPasswordDialog::onCancelClicked);
 
@@ -97,7 +102,7 @@ IAttachment* EnterPasswordDialog::getAttachment() const
 
 void EnterPasswordDialog::setAttachment(std::unique_ptr<IAttachment>& attachment)
 {
-    // Released first: also the dialog's own object must survive being handed over.
+    // Released before the comparison: the host may hand over the object that is attached already.
     IAttachment* next = attachment.release();
     if (next != attached.get())
         attached.reset(next);
@@ -147,4 +152,8 @@ void EnterPasswordDialog::applyAccessMode()
     if (accessMode != EitherWay)
         ui->radioButtonZentModeAccess->setChecked(custom);
     ui->editZentPassword->setEnabled(custom);
+
+    // Qt lets Tab reach one radio button of a group only, which may be disabled by now.
+    ui->radioButtonComputerAdministrator->setFocusPolicy(Qt::StrongFocus);
+    ui->radioButtonZentModeAccess->setFocusPolicy(Qt::StrongFocus);
 }
