@@ -5,7 +5,7 @@
 #include "ui_AuthorizationDialog.h"
 
 namespace {
-/// Any user name goes, the empty one included: what a name may look like is the account's affair.
+/// Every user name is valid, the empty one included.
 bool isUsernameValid(const QString&)
 {
     return true;
