@@ -39,6 +39,7 @@ public:
     void setConnectionId(const QString& id) override;
     const QString& getConnectionId() const override;
 
+    int exec() override;
     /// Starts the countdown with the window, whether it appears through show() or exec(), and stops it with the window.
     void setVisible(bool visible) override;
     /// Nothing: only the two buttons and the countdown answer.
@@ -59,6 +60,7 @@ protected:
     void scaleBy(float ratio) override;
 
 private:
+    void startCountdown();
     void refreshCountdown();
     void setTitleParts(const QString& sessionText);
     void moveOffOtherPrompts();
@@ -74,4 +76,5 @@ private:
     QString auxText1;
     QString auxText2;
     QString connectionId;
+    bool isEnteringExec = false;
 };
