@@ -189,11 +189,8 @@ void ApprovePromptTest::onlyButtonsAnswer()
     cancel.setFocus();
     checkEvents(prompt, QStringLiteral("Return Space"), QStringLiteral("evCancel"));
     QVERIFY(!timer(prompt).isActive());
-    prompt->hide();
-    showActive(prompt);
     allow.setFocus();
     checkEvents(prompt, QStringLiteral("Space"), QStringLiteral("evAllow"));
-    QVERIFY(!timer(prompt).isActive());
 }
 
 void ApprovePromptTest::cascade()
@@ -269,6 +266,12 @@ void ApprovePromptTest::deletedInItsHandler()
             click(prompt, button);
         QVERIFY(!guard);
         QVERIFY(!gui().deleteApproveRemoteConnectionDialogInstance(id));
+    }
+    // exec() reports a time that is over from within its event loop.
+    auto* late = get<Prompt>();
+    for (const int result : {4, 0}) {
+        onNextEvent([&] { result != 0 ? late->done(result) : delete late; });
+        QCOMPARE(late->exec(), result);
     }
 }
 

@@ -146,6 +146,8 @@ void DialogsTest::shownAgain_data()
     textRow({"EnterPasswordDialog", R"({"domain": "d", "login": "l", "administratorPassword": "x"})",
              "editAdministratorPassword selected"});
     textRow({"EnterPasswordDialog", R"({"accessMode": 1, "zentPassword": "x"})", "editZentPassword selected"});
+    textRow({"EnterPasswordDialog", R"({"customPasswordSelected": true})", "editZentPassword"});
+    textRow({"EnterPasswordDialog", R"({"accessMode": 0, "customPasswordSelected": true})", "editDomain"});
     textRow({"OptionDialog", "", "chkShowIcon"});
     textRow({"ServiceDeskTicketDialog", R"({"issueDetails": "d"})", "edSubject"});
     textRow({"ServiceDeskTicketDialog", R"({"subject": "s"})", "txIssueDetails"});
