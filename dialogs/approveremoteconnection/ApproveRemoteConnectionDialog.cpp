@@ -41,7 +41,7 @@ int wrapped(int value, int divisor)
 } // namespace
 
 ApproveRemoteConnectionDialog::ApproveRemoteConnectionDialog(QWidget* parent)
-    : BaseDialog(parent), ui(new Ui::ApproveRemoteConnectionDialog)
+    : BaseDialog(parent), ui(std::make_unique<Ui::ApproveRemoteConnectionDialog>())
 {
     ui->setupUi(this);
     // Unlike the frameless dialogs the prompt shows its own background.
