@@ -221,6 +221,7 @@ void DialogsTest::tabOrders()
 void DialogsTest::windows_data()
 {
     textColumns({"family", "title", "modality", "onTop"});
+    textRow({"ErrorMessageDialog", " Tavik ", "NonModal", "yes"});
     textRow({"AcceptMessageDialog", " Tavik ", "NonModal", "yes"});
     textRow({"ProgressDialog", " Tavik ", "NonModal", "no"});
     textRow({"RebootDialog", "Tavik Reboot", "ApplicationModal", "yes"});
@@ -239,6 +240,8 @@ void DialogsTest::windows()
     QFETCH(QString, onTop);
     const QWidget& top = window(get(family));
     QTEST(top.windowTitle(), "title");
+    QCOMPARE(top.toolTip(), family == QLatin1String("RebootDialog") ? QString() : top.windowTitle());
+    QVERIFY(top.testAttribute(Qt::WA_TranslucentBackground));
     const auto modalities = QMetaEnum::fromType<Qt::WindowModality>();
     QTEST(QString::fromLatin1(modalities.valueToKey(top.windowModality())), "modality");
     Qt::WindowFlags flags = Qt::Window | Qt::FramelessWindowHint;

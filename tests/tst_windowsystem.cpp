@@ -12,7 +12,6 @@ class WindowSystemTest : public GuiTest {
     Q_OBJECT
 
 private Q_SLOTS:
-    void headlineStory();
     void staysOnTop();
     void modalBlocksTheHost();
     void sessionWindowLeavesTheFocus();
@@ -100,24 +99,6 @@ QVector<WId> WindowSystemTest::stacking()
     for (const QByteArray& id : ids)
         windows << id.trimmed().toULongLong(nullptr, 16);
     return windows;
-}
-
-void WindowSystemTest::headlineStory()
-{
-    auto* error = show<IErrorMessageDialog>();
-    error->setMessage(QStringLiteral("The update could not be downloaded. Press Enter to try again."));
-    pressKeys(QStringLiteral("Return"));
-    QCOMPARE(awaitEvents(), QStringList{QStringLiteral("evTryAgain")});
-    QVERIFY(window(error).isVisible());
-    error->hide();
-
-    auto* confirmation = show<IAcceptMessageDialog>();
-    clickOn(child(confirmation, "btnMessageInnerButton"));
-    QCOMPARE(awaitEvents(), QStringList{QStringLiteral("evOk")});
-    pressKeys(QStringLiteral("Escape"));
-    QVERIFY(window(confirmation).isVisible());
-    confirmation->done(0);
-    QTRY_VERIFY(!stacking().contains(window(confirmation).winId()));
 }
 
 void WindowSystemTest::staysOnTop()
