@@ -202,8 +202,10 @@ void BaseDialog::startAfresh()
     for (QAbstractButton* button : buttons)
         button->setDown(false);
 
-    QWidget* const start = startWidget();
-    (start->isEnabled() ? start : this)->setFocus(Qt::OtherFocusReason);
+    QWidget* start = startWidget();
+    if (!start->isEnabled())
+        start = this;
+    start->setFocus(Qt::OtherFocusReason);
     if (auto* field = qobject_cast<QLineEdit*>(start))
         field->selectAll();
 }
