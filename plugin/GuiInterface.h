@@ -50,8 +50,8 @@ public:
     virtual ~GuiInterface() = default;
 
     /// Sets the factor by which dialogs are scaled when they are created; dialogs that exist already keep their size.
-    /// The usual value is the logical resolution of the screen divided by 96. A value that is not a positive finite
-    /// number changes nothing.
+    /// The usual value is the logical resolution of the screen divided by 96. Dialogs ignore a factor that is not a
+    /// positive finite number.
     virtual void setRatio(float ratio) = 0;
     /// The factor set last, 1.0 at first.
     virtual float getRatio() const = 0;
