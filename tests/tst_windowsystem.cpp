@@ -6,13 +6,13 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QVBoxLayout>
+#include <QWindow>
 
 /// The dialogs among other windows, under a real window manager and with real keys and clicks.
 class WindowSystemTest : public GuiTest {
     Q_OBJECT
 
 private Q_SLOTS:
-    void headlineStory();
     void staysOnTop();
     void modalBlocksTheHost();
     void sessionWindowLeavesTheFocus();
@@ -102,24 +102,6 @@ QVector<WId> WindowSystemTest::stacking()
     return windows;
 }
 
-void WindowSystemTest::headlineStory()
-{
-    auto* error = show<IErrorMessageDialog>();
-    error->setMessage(QStringLiteral("The update could not be downloaded. Press Enter to try again."));
-    pressKeys(QStringLiteral("Return"));
-    QCOMPARE(awaitEvents(), QStringList{QStringLiteral("evTryAgain")});
-    QVERIFY(window(error).isVisible());
-    error->hide();
-
-    auto* confirmation = show<IAcceptMessageDialog>();
-    clickOn(child(confirmation, "btnMessageInnerButton"));
-    QCOMPARE(awaitEvents(), QStringList{QStringLiteral("evOk")});
-    pressKeys(QStringLiteral("Escape"));
-    QVERIFY(window(confirmation).isVisible());
-    confirmation->done(0);
-    QTRY_VERIFY(!stacking().contains(window(confirmation).winId()));
-}
-
 void WindowSystemTest::staysOnTop()
 {
     HostWindow host;
@@ -170,6 +152,12 @@ void WindowSystemTest::sessionWindowLeavesTheFocus()
     pressKeys(QStringLiteral("b"));
     pressKeys(QStringLiteral("space"));
     QTRY_COMPARE(host.edit.text(), QStringLiteral("ab "));
+    run(QStringLiteral("xdotool"), {QStringLiteral("windowminimize"), QString::number(window(session).winId())});
+    QTRY_VERIFY(window(session).isMinimized());
+    session->addRemoteControlSession(QStringLiteral("new"), QStringLiteral("user"), 1000, true);
+    QTRY_VERIFY(!window(session).isMinimized() && window(session).windowHandle()->isExposed());
+    pressKeys(QStringLiteral("c"));
+    QTRY_COMPARE(host.edit.text(), QStringLiteral("ab c"));
     QVERIFY(!window(session).isActiveWindow());
     QCOMPARE(takeEvents(), QStringList());
 }
