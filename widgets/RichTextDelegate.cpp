@@ -26,7 +26,7 @@ void scaleFonts(QTextDocument* document, float ratio)
             if (size == 0)
                 continue;
             QTextCharFormat larger;
-            larger.setProperty(QTextFormat::FontPixelSize, qRound(static_cast<float>(size) * ratio));
+            larger.setProperty(QTextFormat::FontPixelSize, qMax(1, qRound(static_cast<float>(size) * ratio)));
             cursor.setPosition(block.position() + range.start);
             cursor.setPosition(block.position() + range.start + range.length, QTextCursor::KeepAnchor);
             cursor.mergeCharFormat(larger);

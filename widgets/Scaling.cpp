@@ -35,7 +35,9 @@ QString scaledStyleSheet(const QString& styleSheet, float ratio)
     int end = 0;
     for (auto matches = pixels.globalMatch(styleSheet); matches.hasNext();) {
         const QRegularExpressionMatch match = matches.next();
-        const int length = qRound(static_cast<float>(match.capturedRef(1).toInt()) * ratio);
+        const int unscaled = match.capturedRef(1).toInt();
+        // No font has 0 pixels, however small the ratio.
+        const int length = qMax(qMin(unscaled, 1), qRound(static_cast<float>(unscaled) * ratio));
         result += styleSheet.midRef(end, match.capturedStart() - end) + QString::number(length) + QLatin1String("px");
         end = match.capturedEnd();
     }
