@@ -50,8 +50,10 @@ void TakeoverPanel::setUsername(const QString& name)
 {
     fullUsername = name;
     showUserName(username, name);
-    nameSessionButton(btnEndRemoteControlSession, sessionTypeLabel->text(), name);
-    nameSessionButton(btnCloseRemoteControlPopup, sessionTypeLabel->text(), name);
+    const QString title = sessionTypeLabel->text();
+    const QString end = QCoreApplication::translate("RemoteConnectionDialog", "End session", "in full");
+    nameSessionButton(btnEndRemoteControlSession, end, title, name);
+    nameSessionButton(btnCloseRemoteControlPopup, btnCloseRemoteControlPopup->text(), title, name);
 }
 
 void TakeoverPanel::updateElapsedTime()
@@ -141,9 +143,9 @@ void showUserName(QLabel* label, const QString& name)
     label->setToolTip(elided == full ? QString() : literalToolTip(full));
 }
 
-void nameSessionButton(QPushButton* button, const QString& sessionTitle, const QString& userName)
+void nameSessionButton(QPushButton* button, const QString& action, const QString& sessionTitle, const QString& userName)
 {
-    const QStringList parts{button->text(), sessionTitle, withVisibleControls(userName)};
+    const QStringList parts{action, sessionTitle, withVisibleControls(userName)};
     button->setAccessibleName(parts.join(QLatin1String(", ")));
 }
 

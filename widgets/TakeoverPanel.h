@@ -57,7 +57,8 @@ private:
 /// Shows a remote person's name in @p label, elided to its maximum width; the full name is then the tool tip.
 void showUserName(QLabel* label, const QString& name);
 /// Tells screen readers which session a button belongs to, as several buttons of a window have the same text.
-void nameSessionButton(QPushButton* button, const QString& sessionTitle, const QString& userName);
+void nameSessionButton(QPushButton* button, const QString& action, const QString& sessionTitle,
+                       const QString& userName);
 /// Gives the focus to the window if @p part has it. To be called before a part is hidden, disabled or removed: Qt would
 /// give the focus to the next widget, perhaps another session's button, and the next key would press that.
 void takeFocusFrom(QWidget* part);

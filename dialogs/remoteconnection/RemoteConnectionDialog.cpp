@@ -321,8 +321,9 @@ bool RemoteConnectionDialog::isToolsSessionRunning() const
 void RemoteConnectionDialog::showToolsUserName()
 {
     showUserName(ui->usernameFileTransfer, toolsUserName);
-    for (QPushButton* button : {ui->btnEndRemoteToolsSession, ui->btnCloseRemoteToolsPopup})
-        nameSessionButton(button, ui->toolSessionTypeLabel->text(), toolsUserName);
+    const QString title = ui->toolSessionTypeLabel->text();
+    nameSessionButton(ui->btnEndRemoteToolsSession, tr("End session", "in full"), title, toolsUserName);
+    nameSessionButton(ui->btnCloseRemoteToolsPopup, ui->btnCloseRemoteToolsPopup->text(), title, toolsUserName);
 }
 
 void RemoteConnectionDialog::closeToolsPopup()
