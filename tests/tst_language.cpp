@@ -192,9 +192,7 @@ void LanguageTest::logRowsFit()
 
 int main(int argc, char** argv)
 {
-    const QByteArray language = qgetenv("LANGUAGE");
-    prepareTestEnvironment();
-    qputenv("LANGUAGE", language);
+    prepareTestEnvironment(qgetenv("LANGUAGE"));
     QApplication application(argc, argv);
     LanguageTest test;
     return runTest(test, argc, argv);
