@@ -3,12 +3,11 @@
 #include <QClipboard>
 #include <QFile>
 #include <QLabel>
-#include <QLineEdit>
 #include <QListView>
 #include <QMimeData>
 #include <QTemporaryDir>
+#include <QTextDocument>
 #include <QTextDocumentFragment>
-#include <QTextEdit>
 
 #include <ctime>
 
@@ -335,9 +334,8 @@ void HostileTest::pasting()
         press(dialog, Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
         const QList<QWidget*> widgets = window(dialog).findChildren<QWidget*>();
         for (QWidget* widget : widgets) {
-            if (!qobject_cast<QLineEdit*>(widget) && !qobject_cast<QTextEdit*>(widget))
+            if (!widget->inherits("QLineEdit") && !widget->inherits("QTextEdit"))
                 continue;
-            QMetaObject::invokeMethod(widget, "clear");
             QMetaObject::invokeMethod(widget, "paste");
             QVERIFY2(!widget->property("html").toString().contains(u"<img"_s), qPrintable(text));
         }
@@ -345,9 +343,7 @@ void HostileTest::pasting()
         QVERIFY2(!takeOpened(), qPrintable(text));
     }
     // Pasting is no answer; the prompt's countdown just ends.
-    QStringList answers = takeEvents();
-    answers.removeAll(u"evTimeout"_s);
-    QCOMPARE(answers, QStringList());
+    QVERIFY(takeEvents().filter(QRegularExpression(u"^(?!evTimeout)"_s)).isEmpty());
 }
 
 void HostileTest::branding_data()
@@ -379,8 +375,7 @@ void HostileTest::noNetworkCode()
     QFile plugin(QStringLiteral(GUI_PLUGIN));
     QVERIFY(plugin.open(QIODevice::ReadOnly));
     const QByteArray code = plugin.readAll();
-    QVERIFY(code.contains("Qt5Widgets"));
-    QVERIFY(!code.contains("Qt5Network"));
+    QVERIFY(code.contains("Qt5Widgets") && !code.contains("Qt5Network"));
 }
 
 GUI_TEST_MAIN(HostileTest)
