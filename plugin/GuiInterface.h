@@ -43,8 +43,9 @@ class IZentPasswordDialog;
 ///   such slot, or when this very connection exists already. The connection ends with either object.
 ///
 /// Everything happens on the GUI thread, inside the host's event loop; a QApplication must exist before the plugin is
-/// loaded. Destroying the root object leaves dialogs that were never deleted alive. The order of the virtual functions
-/// is part of the binary contract.
+/// loaded. Without one **get** writes a message and returns null, and the branding file is not read. Destroying the
+/// root object leaves dialogs that were never deleted alive. The order of the virtual functions is part of the binary
+/// contract.
 class GuiInterface {
 public:
     virtual ~GuiInterface() = default;

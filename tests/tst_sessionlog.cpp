@@ -3,13 +3,13 @@
 #include <QAccessible>
 #include <QCheckBox>
 #include <QClipboard>
-#include <QElapsedTimer>
 #include <QListView>
 #include <QScreen>
 #include <QScrollBar>
 #include <QTextDocumentFragment>
 #include <QToolTip>
 
+#include <ctime>
 #include <limits>
 
 namespace {
@@ -134,11 +134,11 @@ void SessionLogTest::badInput()
     add(QStringLiteral("x"));
     const int height = rowRect(0).height();
     for (qint64 time : {Limits::min(), noon}) {
-        QElapsedTimer timer;
-        timer.start();
+        // The processor's time, which other programs do not lengthen.
+        const std::clock_t start = std::clock();
         session->addLogEvent(time, value, value, value, value);
         window(session).grab();
-        QVERIFY(timer.elapsed() < 1000);
+        QVERIFY(std::clock() - start < CLOCKS_PER_SEC);
         QVERIFY(text(0).endsWith(QString(QLatin1Char(' ') + value + QLatin1Char(' ') + value)));
         QCOMPARE(text(0, Qt::DisplayRole).count(QLatin1Char('<')), 8);
         QVERIFY(!text(0, Qt::DisplayRole).contains(QRegularExpression(QStringLiteral("[\\r\\n\u202E]"))));
