@@ -15,12 +15,11 @@
 #include "ZentPasswordDialog.h"
 #include "loadTranslation.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QFile>
 #include <QMetaMethod>
 #include <QTranslator>
 
-#include <cmath>
 #include <type_traits>
 
 namespace {
@@ -50,11 +49,13 @@ QByteArray eventSignal(const QMetaObject& metaObject)
     return QByteArray();
 }
 
-/// Installs @p translator, once also when an earlier root object has done so.
-void install(QTranslator* translator)
+/// Without a QApplication Qt ends the process as soon as a widget is created.
+bool hasApplication()
 {
-    QCoreApplication::removeTranslator(translator);
-    QCoreApplication::installTranslator(translator);
+    if (qobject_cast<QApplication*>(QCoreApplication::instance()))
+        return true;
+    qCritical("there are no dialogs without a QApplication: create it before this library is loaded");
+    return false;
 }
 } // namespace
 
@@ -67,8 +68,7 @@ Gui::~Gui() = default;
 
 void Gui::setRatio(float newRatio)
 {
-    if (std::isfinite(newRatio) && newRatio > 0.0F)
-        ratio = newRatio;
+    ratio = newRatio;
 }
 
 float Gui::getRatio() const
@@ -82,6 +82,8 @@ Dialog* Gui::get(const QString& id)
     // Looked up without the id: a prompt that is kept per id is therefore created anew at every call.
     if (BaseDialog* existing = dialogs[registryKey<Dialog>(QString())])
         return static_cast<Dialog*>(existing);
+    if (!hasApplication())
+        return nullptr;
 
     auto* dialog = create<Dialog>();
     if constexpr (std::is_same_v<Dialog, ApproveRemoteConnectionDialog>)
@@ -142,17 +144,15 @@ void Gui::assignStyleSheet(QDialog* dialog)
 
 void Gui::assignTranslations()
 {
-    // Both leave the application when the library is unloaded.
+    // Leaves the application when the library is unloaded.
     static QTranslator translator;
-    static QTranslator qtTranslator;
-    const QString prefix = QStringLiteral(":/translations/Gui_");
-    if (!loadTranslation(translator, prefix, QStringLiteral("en"))) {
+    if (!loadTranslation(translator, QStringLiteral(":/translations/Gui_"), QStringLiteral("en"))) {
         qDebug("GUI TRANSLATIONS NOT LOADED");
         return;
     }
-    install(&translator);
-    if (loadQtTranslation(qtTranslator, prefix))
-        install(&qtTranslator);
+    // Not twice when an earlier root object has installed it.
+    QCoreApplication::removeTranslator(&translator);
+    QCoreApplication::installTranslator(&translator);
 }
 
 // The families differ in a type.

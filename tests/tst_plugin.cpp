@@ -3,6 +3,7 @@
 #include <QPointer>
 
 #include <cmath>
+#include <cstring>
 #include <limits>
 
 namespace {
@@ -139,6 +140,8 @@ private Q_SLOTS:
         const float infinity = std::numeric_limits<float>::infinity();
         for (const float ratio : {0.0F, -1.5F, std::nanf(""), infinity, -infinity}) {
             gui().setRatio(ratio);
+            const float stored = gui().getRatio();
+            QVERIFY(std::memcmp(&stored, &ratio, sizeof ratio) == 0);
             auto* dialog = get<IAcceptMessageDialog>();
             dialog->setRatio(ratio);
             QCOMPARE(window(dialog).geometry(), geometry);

@@ -3,8 +3,10 @@
 
 #include <QAbstractItemView>
 #include <QAccessible>
+#include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QFileInfo>
 #include <QGroupBox>
 #include <QJsonDocument>
@@ -17,6 +19,8 @@
 #include <QTemporaryDir>
 #include <QTextDocument>
 #include <QTextEdit>
+#include <QTimer>
+#include <QTranslator>
 
 #include <cmath>
 
@@ -24,6 +28,22 @@ namespace {
 const QDir references(QStringLiteral(REFERENCES));
 constexpr int tileSide = 8;
 constexpr int tolerance = 28; // of 255, in any channel of a tile's mean
+
+const QString untranslated = QStringLiteral("untranslated");
+
+/// Installed before the library is loaded, it is asked for what the library's translator does not know.
+class LastTranslator final : public QTranslator {
+public:
+    QString translate(const char* context, const char* source, const char* /*comment*/, int /*n*/) const override
+    {
+        // The sign between the keys of a shortcut is the same everywhere.
+        return *context != 'Q' || qstrcmp(source, "+") == 0 ? QString() : untranslated;
+    }
+    bool isEmpty() const override
+    {
+        return false;
+    }
+};
 
 bool isRenewing()
 {
@@ -390,6 +410,31 @@ private Q_SLOTS:
         QVERIFY2(failures.isEmpty(), qPrintable(failures.join(QLatin1Char('\n'))));
     }
 
+    void menusAreTranslated()
+    {
+        QStringList texts;
+        for (const Family& family : dialogFamilies()) {
+            IBaseDialog* dialog = get(family.name);
+            dialog->show();
+            for (QWidget* widget : window(dialog).findChildren<QWidget*>()) {
+                widget->setEnabled(true);
+                QTimer::singleShot(0, this, [&texts] {
+                    QWidget* const menu = QApplication::activePopupWidget();
+                    if (!menu)
+                        return;
+                    for (const QAction* action : menu->actions())
+                        texts << action->text();
+                    menu->close();
+                });
+                QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(5, 5), widget->mapToGlobal(QPoint(5, 5)));
+                QCoreApplication::sendEvent(widget, &event);
+                settle();
+            }
+        }
+        QVERIFY2(!texts.isEmpty(), "no menu was shown");
+        QVERIFY2(texts.filter(untranslated).isEmpty(), qPrintable(texts.join(QLatin1Char('\n'))));
+    }
+
     void timePasses()
     {
         QWidget& spinner = child(show<IProgressDialog>(), "messageIcon");
@@ -425,5 +470,14 @@ private Q_SLOTS:
     }
 };
 
-GUI_TEST_MAIN(StatesTest)
+int main(int argc, char** argv)
+{
+    const QByteArray language = qgetenv("GUI_TEST_LANGUAGE");
+    prepareTestEnvironment(language.isEmpty() ? "en" : language);
+    QApplication application(argc, argv);
+    LastTranslator lastTranslator;
+    QCoreApplication::installTranslator(&lastTranslator);
+    StatesTest test;
+    return runTest(test, argc, argv);
+}
 #include "tst_states.moc"

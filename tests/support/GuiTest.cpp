@@ -1,4 +1,5 @@
 #include "GuiTest.h"
+#include "Surroundings.h"
 
 #include <QClipboard>
 #include <QDir>
@@ -28,17 +29,12 @@ void recordMessage(QtMsgType type, const QMessageLogContext& context, const QStr
 }
 } // namespace
 
-void prepareTestEnvironment()
+void prepareTestEnvironment(const QByteArray& language)
 {
-    const auto setDefault = [](const char* name, const char* value) {
-        if (qEnvironmentVariableIsEmpty(name))
-            qputenv(name, value);
-    };
-    setDefault("QT_QPA_PLATFORM", "offscreen");
-    // The resolution to which the dialogs' fixed geometry belongs; the offscreen platform has another one.
-    setDefault("QT_FONT_DPI", "96");
-    setDefault("GUI_TEST_LANGUAGE", "en");
-    qputenv("LANGUAGE", qgetenv("GUI_TEST_LANGUAGE"));
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("LANGUAGE", language);
+    prepareSurroundings();
 }
 
 int runTest(QObject& test, int argc, char** argv)
