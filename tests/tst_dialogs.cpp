@@ -1,303 +1,360 @@
 #include "GuiTest.h"
 
 #include <QAbstractButton>
+#include <QBuffer>
+#include <QComboBox>
 #include <QJsonDocument>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMetaEnum>
-#include <QScreen>
+#include <QMessageBox>
+#include <QScrollBar>
+#include <QSpinBox>
+#include <QTextDocument>
+#include <QTextEdit>
+#include <QTimer>
+#include <QWheelEvent>
 
-/// What each dialog, those of remote sessions aside, reports for clicks, keys, slots and requests to close, where Tab
-/// leads, what it holds at first, and what kind of window it is.
+#include <random>
+
+namespace {
+const QVector<Qt::Key> typedKeys{Qt::Key_A,      Qt::Key_N,      Qt::Key_Y,         Qt::Key_1,      Qt::Key_Space,
+                                 Qt::Key_Return, Qt::Key_Enter,  Qt::Key_Escape,    Qt::Key_Period, Qt::Key_F1,
+                                 Qt::Key_F5,     Qt::Key_Delete, Qt::Key_Backspace, Qt::Key_Home,   Qt::Key_End,
+                                 Qt::Key_PageUp, Qt::Key_Insert};
+const QVector<Qt::Key> movingKeys{Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Left, Qt::Key_Down};
+} // namespace
+
+/// What each dialog, those of remote sessions aside, reports for clicks, keys, slots and requests to close, where it
+/// starts, and what the error message, the restart prompt and the options do besides.
 class DialogsTest : public GuiTest {
     Q_OBJECT
 
+    static void preset(IBaseDialog* dialog, const QString& family, const QString& values)
+    {
+        const QJsonObject properties = QJsonDocument::fromJson(values.toUtf8()).object();
+        QCOMPARE(properties.isEmpty(), values.isEmpty());
+        for (auto property = properties.begin(); property != properties.end(); ++property)
+            dialogFamily(family).set(*dialog, property.key(), property.value());
+    }
+
 private Q_SLOTS:
-    void events_data();
-    void events();
-    void shownAgain_data();
-    void shownAgain();
-    void tabOrders_data();
-    void tabOrders();
-    void windows_data();
-    void windows();
-    void firstValues_data();
-    void firstValues();
-    void switches();
+    void events_data()
+    {
+        // Each action raises the event, or none if there is none. "@edit" gives a widget the focus, "button+" and
+        // "button-" tell that it is enabled or disabled, and after "close!" the dialog is hidden.
+        textColumns({"family", "actions", "event", "values"});
+        const auto add = [](const char* family, const char* actions, const char* event, const char* values = "") {
+            textRow({family, actions, event, values});
+        };
+        add("ErrorMessageDialog", "reject() slClose() close btnCancel btnClose @btnCancel Return", "evClose");
+        add("ErrorMessageDialog", "Return Enter slInnerButtonClick()", "evTryAgain");
+        add("ErrorMessageDialog", "Escape Space", "");
 
-private:
-    static void preset(IBaseDialog* dialog, const QString& family, const QString& values);
-};
+        add("AcceptMessageDialog", "slClose() btnCancel btnClose", "evClose");
+        add("AcceptMessageDialog", "Return reject() close btnMessageInnerButton", "evOk");
+        add("AcceptMessageDialog", "Escape", "");
 
-void DialogsTest::preset(IBaseDialog* dialog, const QString& family, const QString& values)
-{
-    const QJsonObject properties = QJsonDocument::fromJson(values.toUtf8()).object();
-    QCOMPARE(properties.isEmpty(), values.isEmpty());
-    for (auto property = properties.begin(); property != properties.end(); ++property)
-        dialogFamily(family).set(*dialog, property.key(), property.value());
-}
+        add("ProgressDialog", "btnMessageInnerButton- Space Return Enter Escape A accept()", "");
+        add("ProgressDialog", "btnCancel btnClose @btnCancel Space", "evCancel");
+        add("ProgressDialog", "reject() close", "evClose");
 
-void DialogsTest::events_data()
-{
-    textColumns({"family", "values", "focus", "actions", "event"});
-    const auto add = [](const char* family, const char* actions, const char* event, const char* values = "",
-                        const char* focus = "") {
-        textRow({family, values, focus, actions, event});
-    };
-    add("ErrorMessageDialog", "reject() slClose() close btnCancel btnClose", "evClose");
-    add("ErrorMessageDialog", "Return Enter slInnerButtonClick()", "evTryAgain");
-    add("ErrorMessageDialog", "Escape Space", "");
-    add("ErrorMessageDialog", "Return", "evClose", "", "btnCancel");
+        add("RebootDialog", "Return Enter postponeButton @rebootNowButton Return Enter", "evPostpone");
+        add("RebootDialog", "Escape R Space @postponeButton Escape", "");
+        add("RebootDialog", "closed() close!", "evClosed");
+        add("RebootDialog", "rebootNowButton @rebootNowButton Space", "evRebootNow");
 
-    add("AcceptMessageDialog", "slClose() btnCancel btnClose", "evClose");
-    add("AcceptMessageDialog", "Return reject() close btnMessageInnerButton", "evOk");
-    add("AcceptMessageDialog", "Escape", "");
+        add("AboutDialog", "Return Enter Space accept() reject() close btnOk btnClose", "evClose");
+        add("AboutDialog", "btnUpdateNow", "evUpdateNow");
+        add("AboutDialog", "@lblWebSiteLink Return Enter", "evLinkClicked");
+        add("AboutDialog", "Escape", "");
 
-    add("ProgressDialog", "Space Return Enter Escape A accept()", "");
-    add("ProgressDialog", "btnCancel btnClose", "evCancel");
-    add("ProgressDialog", "Space", "evCancel", "", "btnCancel");
-    add("ProgressDialog", "reject() close", "evClose");
+        add("AuthorizationDialog", "reject() slClose() close btnCancel btnClose", "evClose");
+        add("AuthorizationDialog", "Return Enter accept() slLogin() btnLogin Escape A btnLogin-", "");
+        add("AuthorizationDialog", "@edPassword Space btnLogin+ Backspace btnLogin-", "");
+        add("AuthorizationDialog", "Return Enter accept() slLogin() btnLogin", "evLogin", R"({"password": " "})");
+        add("AuthorizationDialog", "goToWeb() lblWebLink", "evGoToWeb");
+        add("AuthorizationDialog", "@lblWebLink Return Enter", "evGoToWeb", R"({"password": "x"})");
 
-    add("RebootDialog", "Return Enter postponeButton", "evPostpone");
-    add("RebootDialog", "Escape R Space", "");
-    add("RebootDialog", "closed()", "evClosed");
-    add("RebootDialog", "rebootNowButton", "evRebootNow");
-    add("RebootDialog", "Return Enter", "evPostpone", "", "rebootNowButton");
-    add("RebootDialog", "Space", "evRebootNow", "", "rebootNowButton");
-    add("RebootDialog", "Escape", "", "", "postponeButton");
+        add("ActivationDialog", "reject() slClose() close btnCancel btnClose", "evClose");
+        add("ActivationDialog", "Return Enter accept() slActivate()", "evEnroll");
+        add("ActivationDialog", "A Escape toggleStep() btnActivateNow btnActivateNow- @edToken Space btnActivateNow+",
+            "", R"({"serverUrl": "a"})");
+        add("ActivationDialog", "btnActivateNow", "evEnroll", R"({"token": " "})");
+        add("ActivationDialog", "goToRegistration()", "evGoToRegistration");
 
-    add("AboutDialog", "Return Enter Space accept() reject() close btnOk btnClose", "evClose");
-    add("AboutDialog", "btnUpdateNow", "evUpdateNow");
-    add("AboutDialog", "Return Enter", "evLinkClicked", "", "lblWebSiteLink");
-    add("AboutDialog", "Escape", "");
+        add("ZentPasswordDialog", "reject() slClose() close btnCancel", "evClose");
+        add("ZentPasswordDialog", "Return Enter accept() slContinue() btnContinue Escape", "");
+        add("ZentPasswordDialog", "btnContinue- Space btnContinue+ Backspace btnContinue-", "");
+        add("ZentPasswordDialog", "Return Enter accept() slContinue() btnContinue", "evContinue",
+            R"({"password": " "})");
 
-    add("AuthorizationDialog", "reject() slClose() close btnCancel btnClose", "evClose");
-    add("AuthorizationDialog", "Return Enter accept() slLogin() btnLogin Escape", "");
-    add("AuthorizationDialog", "Return Enter accept() slLogin() btnLogin", "evLogin", R"({"password": " "})");
-    add("AuthorizationDialog", "goToWeb() lblWebLink", "evGoToWeb");
-    add("AuthorizationDialog", "Return Enter", "evGoToWeb", R"({"password": "x"})", "lblWebLink");
+        add("EnterPasswordDialog", "Return Enter accept() onOkClicked() buttonOk", "evOk");
+        add("EnterPasswordDialog", "onCancelClicked() buttonCancel", "evCancel");
+        add("EnterPasswordDialog", "onCloseClicked()", "evCloseClicked");
+        // Its buttons report; a request to close just hides it.
+        add("EnterPasswordDialog", "Escape close!", "");
 
-    add("ActivationDialog", "reject() slClose() close btnCancel btnClose", "evClose");
-    add("ActivationDialog", "Return Enter accept() slActivate()", "evEnroll");
-    add("ActivationDialog", "Escape toggleStep() btnActivateNow", "", R"({"serverUrl": "https://mdm.example.com"})");
-    add("ActivationDialog", "btnActivateNow", "evEnroll", R"({"token": " "})");
-    add("ActivationDialog", "goToRegistration()", "evGoToRegistration");
+        add("OptionDialog", "reject() close btnClose btnCancel @btnCancel Enter", "evClose");
+        add("OptionDialog", "slDeactivateAccount()", "evDeactivate");
+        add("OptionDialog", "Return accept() btnSave", "evSave");
+        add("OptionDialog", "Escape btnSave+ @proxyGroupBox Space btnSave btnSave- @edtAdress Space btnSave+", "");
+        add("OptionDialog",
+            "@proxyAuthGroupBox Space btnSave btnSave- @edtProxyLogin Space btnSave+ @edtAdress "
+            "Backspace btnSave-",
+            "", R"({"proxyEnabled": true, "proxyAddress": "p"})");
+        add("OptionDialog", "btnSave", "evSave", R"({"proxyAuthEnabled": true})");
+        // The key saves even what is incomplete, unless a button has the focus.
+        add("OptionDialog", "@edtAdress Return @spnbxPort Return @chkShowIcon Return @proxyGroupBox Return", "evSave",
+            R"({"proxyEnabled": true})");
 
-    add("ZentPasswordDialog", "reject() slClose() close btnCancel", "evClose");
-    add("ZentPasswordDialog", "Return Enter accept() slContinue() btnContinue Escape", "");
-    add("ZentPasswordDialog", "Return Enter accept() slContinue() btnContinue", "evContinue", R"({"password": " "})");
-
-    add("EnterPasswordDialog", "Return Enter accept() onOkClicked() buttonOk", "evOk");
-    add("EnterPasswordDialog", "onCancelClicked() buttonCancel", "evCancel");
-    add("EnterPasswordDialog", "onCloseClicked()", "evCloseClicked");
-    add("EnterPasswordDialog", "Escape", "");
-
-    add("OptionDialog", "reject() close btnClose btnCancel", "evClose");
-    add("OptionDialog", "slDeactivateAccount()", "evDeactivate");
-    add("OptionDialog", "Return accept() btnSave", "evSave");
-    add("OptionDialog", "Escape", "");
-    add("OptionDialog", "btnSave", "evSave", R"({"proxyAuthEnabled": true})");
-    add("OptionDialog", "btnSave", "", R"({"proxyEnabled": true})");
-    add("OptionDialog", "btnSave", "evSave", R"({"proxyEnabled": true, "proxyAddress": " "})");
-    add("OptionDialog", "btnSave", "", R"({"proxyEnabled": true, "proxyAuthEnabled": true, "proxyLogin": "anna"})");
-    add("OptionDialog", "btnSave", "", R"({"proxyEnabled": true, "proxyAuthEnabled": true, "proxyAddress": "p"})");
-    add("OptionDialog", "btnSave", "evSave",
-        R"({"proxyEnabled": true, "proxyAuthEnabled": true, "proxyAddress": "p", "proxyLogin": " "})");
-    // The key saves even what is incomplete, unless a button has the focus.
-    for (const char* focus : {"edtAdress", "spnbxPort", "chkShowIcon", "proxyGroupBox"})
-        add("OptionDialog", "Return", "evSave", R"({"proxyEnabled": true})", focus);
-    add("OptionDialog", "Enter", "evClose", "", "btnCancel");
-
-    add("ServiceDeskTicketDialog", "Escape reject() slClose() close bnCancel btnClose", "evCancel");
-    add("ServiceDeskTicketDialog", "bnSubmit", "", R"({"subject": "s"})");
-    add("ServiceDeskTicketDialog", "bnSubmit", "evSubmit", R"({"subject": " ", "issueDetails": "d"})");
-}
-
-void DialogsTest::events()
-{
-    QFETCH(QString, family);
-    QFETCH(QString, values);
-    QFETCH(QString, focus);
-    QFETCH(QString, actions);
-    QFETCH(QString, event);
-    IBaseDialog* dialog = get(family);
-    preset(dialog, family, values);
-    showActive(dialog);
-    if (!focus.isEmpty())
-        child(dialog, qPrintable(focus)).setFocus();
-    checkEvents(dialog, actions, event);
-}
-
-void DialogsTest::shownAgain_data()
-{
-    textColumns({"family", "values", "start"});
-    textRow({"ErrorMessageDialog", "", "ErrorMessageDialog"});
-    textRow({"AcceptMessageDialog", "", "btnMessageInnerButton"});
-    textRow({"ProgressDialog", "", "ProgressDialog"});
-    textRow({"RebootDialog", "", "timeoutComboBox"});
-    textRow({"AboutDialog", "", "btnOk"});
-    textRow({"AuthorizationDialog", R"({"password": "x"})", "edEmail"});
-    textRow({"AuthorizationDialog", R"({"username": "anna"})", "edPassword"});
-    textRow({"AuthorizationDialog", R"({"username": "anna", "password": "x"})", "edPassword selected"});
-    textRow({"ActivationDialog", R"({"token": "x"})", "edHost"});
-    textRow({"ActivationDialog", R"({"serverUrl": "https://a", "token": "x"})", "edHost selected"});
-    textRow({"ZentPasswordDialog", R"({"password": "x"})", "edPassword selected"});
-    textRow({"EnterPasswordDialog", R"({"domain": "d"})", "editLogin"});
-    textRow({"EnterPasswordDialog", R"({"domain": "d", "login": "l", "administratorPassword": "x"})",
-             "editAdministratorPassword selected"});
-    textRow({"EnterPasswordDialog", R"({"accessMode": 1, "zentPassword": "x"})", "editZentPassword selected"});
-    textRow({"EnterPasswordDialog", R"({"customPasswordSelected": true})", "editZentPassword"});
-    textRow({"EnterPasswordDialog", R"({"accessMode": 0, "customPasswordSelected": true})", "editDomain"});
-    textRow({"OptionDialog", "", "chkShowIcon"});
-    textRow({"ServiceDeskTicketDialog", R"({"issueDetails": "d"})", "edSubject"});
-    textRow({"ServiceDeskTicketDialog", R"({"subject": "s"})", "txIssueDetails"});
-    textRow({"ApproveRemoteConnectionDialog", R"({"countdown": 30})", "cancelButton"});
-}
-
-void DialogsTest::shownAgain()
-{
-    QFETCH(QString, family);
-    QFETCH(QString, values);
-    IBaseDialog* dialog = get(family);
-    preset(dialog, family, values);
-    QWidget& top = window(dialog);
-    const auto start = [&] {
+        add("ServiceDeskTicketDialog", "Escape reject() slClose() close bnCancel btnClose", "evCancel");
+        add("ServiceDeskTicketDialog", "bnSubmit bnSubmit-", "", R"({"subject": "s"})");
+        add("ServiceDeskTicketDialog", "bnSubmit", "evSubmit", R"({"subject": " ", "issueDetails": "d"})");
+    }
+    void events()
+    {
+        QFETCH(QString, family);
+        QFETCH(QString, actions);
+        QFETCH(QString, event);
+        QFETCH(QString, values);
+        IBaseDialog* dialog = get(family);
+        preset(dialog, family, values);
         showActive(dialog);
-        const auto* edit = qobject_cast<QLineEdit*>(top.focusWidget());
-        const bool selected = edit && edit->hasSelectedText() && edit->selectionLength() == edit->text().size();
-        return top.focusWidget()->objectName() + QLatin1String(selected ? " selected" : "");
-    };
-    QTEST(start(), "start");
-    // Whatever was used last, also while the window was not active: the next key is no part of that answer.
-    for (QWidget* used : top.findChildren<QWidget*>()) {
-        auto* button = qobject_cast<QAbstractButton*>(used);
-        const auto* label = qobject_cast<QLabel*>(used);
-        if (!button && used->focusPolicy() == Qt::NoFocus)
-            continue;
-        for (const bool active : {true, false}) {
-            QWidget other;
-            if (!active)
-                other.show();
-            QVERIFY(QTest::qWaitForWindowActive(active ? &top : &other));
-            used->setFocus();
-            if (button)
-                button->setDown(true);
-            dialog->hide();
-            QTEST(start(), "start");
-            QVERIFY(!(button && button->isDown()) && !(label && label->hasSelectedText()));
+        for (const QString& action : actions.split(QLatin1Char(' '))) {
+            const QString name = action.mid(action.startsWith(QLatin1Char('@')) ? 1 : 0);
+            if (action != name) {
+                child(dialog, qPrintable(name)).setFocus();
+            } else if (action.endsWith(QLatin1Char('+')) || action.endsWith(QLatin1Char('-'))) {
+                const bool isEnabled = child(dialog, qPrintable(name.chopped(1))).isEnabled();
+                QVERIFY2(isEnabled == action.endsWith(QLatin1Char('+')), qPrintable(action));
+            } else {
+                const bool hides = action.endsWith(QLatin1Char('!'));
+                act(dialog, name.chopped(hides ? 1 : 0));
+                QCOMPARE(name + takeEvents().join(QLatin1Char(' ')), QString(name + event));
+                QVERIFY2(window(dialog).isVisible() != hides, qPrintable(action));
+            }
         }
     }
-}
 
-void DialogsTest::tabOrders_data()
-{
-    textColumns({"family", "values", "order"});
-    textRow({"RebootDialog", "", "timeoutComboBox rebootNowButton postponeButton"});
-    textRow({"AboutDialog", "", "btnOk lblWebSiteLink btnUpdateNow"});
-    textRow({"AuthorizationDialog", R"({"password": "x"})", "edEmail edPassword btnLogin btnCancel lblWebLink"});
-    textRow({"ActivationDialog", R"({"token": "x"})", "edHost edPort edToken btnActivateNow btnCancel"});
-    textRow({"ZentPasswordDialog", R"({"password": "x"})", "edPassword btnContinue btnCancel"});
-    textRow({"EnterPasswordDialog", "",
-             "editDomain editLogin editAdministratorPassword radioButtonZentModeAccess editZentPassword buttonOk "
-             "buttonCancel"});
-    textRow({"OptionDialog",
-             R"({"proxyEnabled": true, "proxyAuthEnabled": true, "proxyAddress": "p", "proxyLogin": "anna"})",
-             "chkShowIcon chkAutoUpdate proxyGroupBox edtAdress spnbxPort proxyAuthGroupBox edtProxyLogin "
-             "edtProxyPassword btnSave btnCancel"});
-    textRow({"ServiceDeskTicketDialog", R"({"subject": "s", "issueDetails": "d"})",
-             "edSubject cbDepartment cbPriorityLevel txIssueDetails ckIncludeDeviceData bnSubmit bnCancel"});
-}
-
-void DialogsTest::tabOrders()
-{
-    QFETCH(QString, family);
-    QFETCH(QString, values);
-    IBaseDialog* dialog = get(family);
-    preset(dialog, family, values);
-    showActive(dialog);
-    QTEST(tabOrder(dialog), "order");
-}
-
-void DialogsTest::windows_data()
-{
-    textColumns({"family", "title", "modality", "onTop"});
-    textRow({"ErrorMessageDialog", " Tavik ", "NonModal", "yes"});
-    textRow({"AcceptMessageDialog", " Tavik ", "NonModal", "yes"});
-    textRow({"ProgressDialog", " Tavik ", "NonModal", "no"});
-    textRow({"RebootDialog", "Tavik Reboot", "ApplicationModal", "yes"});
-    textRow({"AboutDialog", " Tavik About", "NonModal", "no"});
-    textRow({"AuthorizationDialog", " Tavik Login", "WindowModal", "yes"});
-    textRow({"ActivationDialog", " Tavik Enroll", "NonModal", "no"});
-    textRow({"ZentPasswordDialog", " Tavik Enter password", "ApplicationModal", "no"});
-    textRow({"EnterPasswordDialog", " Tavik Enter password", "ApplicationModal", "no"});
-    textRow({"OptionDialog", " Tavik Options", "ApplicationModal", "no"});
-    textRow({"ServiceDeskTicketDialog", " Tavik Submit ticket", "NonModal", "yes"});
-}
-
-void DialogsTest::windows()
-{
-    QFETCH(QString, family);
-    QFETCH(QString, onTop);
-    const QWidget& top = window(get(family));
-    QTEST(top.windowTitle(), "title");
-    QCOMPARE(top.toolTip(), family == QLatin1String("RebootDialog") ? QString() : top.windowTitle());
-    QVERIFY(top.testAttribute(Qt::WA_TranslucentBackground));
-    const auto modalities = QMetaEnum::fromType<Qt::WindowModality>();
-    QTEST(QString::fromLatin1(modalities.valueToKey(top.windowModality())), "modality");
-    Qt::WindowFlags flags = Qt::Window | Qt::FramelessWindowHint;
-    QCOMPARE(top.windowFlags(), flags.setFlag(Qt::WindowStaysOnTopHint, onTop == QLatin1String("yes")));
-    const QPoint center = QGuiApplication::primaryScreen()->availableGeometry().center();
-    QVERIFY((top.frameGeometry().center() - center).manhattanLength() <= 2);
-}
-
-void DialogsTest::firstValues_data()
-{
-    textColumns({"family", "values"});
-    textRow({"ErrorMessageDialog", R"({"message":""})"});
-    textRow({"AcceptMessageDialog", R"({"message":""})"});
-    textRow({"ProgressDialog", R"({"message":"","progress":0})"});
-    textRow({"RebootDialog", R"({"message":"","postponePeriod":0,"shutdown":false})"});
-    textRow({"AboutDialog", R"({"lastCommunicationTime":"n/a","server":"n/a","version":""})"});
-    textRow({"OptionDialog",
-             R"({"autoUpdate":false,"proxyAddress":"","proxyAuthEnabled":false,"proxyEnabled":false,)"
-             R"("proxyLogin":"","proxyPassword":"","proxyPort":1,"showTrayIcon":false})"});
-    textRow({"ServiceDeskTicketDialog",
-             R"({"department":"","departmentIndex":-1,"includeDeviceData":false,"issueDetails":"",)"
-             R"("issueDetailsMaxLength":0,"priority":"","priorityIndex":-1,"subject":"","subjectMaxLength":32767})"});
-}
-
-void DialogsTest::firstValues()
-{
-    QFETCH(QString, family);
-    QJsonObject values = dialogFamily(family).values(*get(family));
-    // It names the year in which the library was built.
-    values.remove(QStringLiteral("copyright"));
-    QTEST(QString::fromUtf8(QJsonDocument(values).toJson(QJsonDocument::Compact)), "values");
-}
-
-void DialogsTest::switches()
-{
-    int count = 0;
-    for (const Family& family : dialogFamilies()) {
-        // It tells which sessions run.
-        if (family.name == QLatin1String("RemoteConnectionDialog"))
-            continue;
-        IBaseDialog* dialog = get(family.name);
-        const QJsonObject before = family.values(*dialog);
-        for (const QString& property : before.keys()) {
-            if (!before[property].isBool())
+    void shownAgain_data()
+    {
+        textColumns({"family", "start", "values"});
+        textRow({"ErrorMessageDialog", "ErrorMessageDialog", ""});
+        textRow({"AcceptMessageDialog", "btnMessageInnerButton", ""});
+        textRow({"ProgressDialog", "ProgressDialog", ""});
+        textRow({"RebootDialog", "timeoutComboBox", ""});
+        textRow({"AboutDialog", "btnOk", ""});
+        textRow({"AuthorizationDialog", "edEmail", R"({"password": "x"})"});
+        textRow({"AuthorizationDialog", "edPassword", R"({"username": "anna"})"});
+        textRow({"AuthorizationDialog", "edPassword selected", R"({"username": "anna", "password": "x"})"});
+        textRow({"ActivationDialog", "edHost", R"({"token": "x"})"});
+        textRow({"ActivationDialog", "edHost selected", R"({"serverUrl": "https:\/\/a", "token": "x"})"});
+        textRow({"ZentPasswordDialog", "edPassword selected", R"({"password": "x"})"});
+        textRow({"EnterPasswordDialog", "editLogin", R"({"domain": "d"})"});
+        textRow({"EnterPasswordDialog", "editAdministratorPassword selected",
+                 R"({"domain": "d", "login": "l", "administratorPassword": "x"})"});
+        textRow({"EnterPasswordDialog", "editZentPassword selected", R"({"accessMode": 1, "zentPassword": "x"})"});
+        textRow({"EnterPasswordDialog", "editZentPassword", R"({"customPasswordSelected": true})"});
+        textRow({"EnterPasswordDialog", "editDomain", R"({"accessMode": 0, "customPasswordSelected": true})"});
+        textRow({"OptionDialog", "chkShowIcon", ""});
+        textRow({"ServiceDeskTicketDialog", "edSubject", R"({"issueDetails": "d"})"});
+        textRow({"ServiceDeskTicketDialog", "txIssueDetails", R"({"subject": "s"})"});
+        textRow({"ApproveRemoteConnectionDialog", "cancelButton", R"({"countdown": 30})"});
+    }
+    void shownAgain()
+    {
+        QFETCH(QString, family);
+        QFETCH(QString, values);
+        IBaseDialog* dialog = get(family);
+        preset(dialog, family, values);
+        QWidget& top = window(dialog);
+        const auto start = [&] {
+            showActive(dialog);
+            const auto* edit = qobject_cast<QLineEdit*>(top.focusWidget());
+            const bool selected = edit && edit->hasSelectedText() && edit->selectionLength() == edit->text().size();
+            return top.focusWidget()->objectName() + QLatin1String(selected ? " selected" : "");
+        };
+        QTEST(start(), "start");
+        // Whatever was used last, also while the window was not active: the next key is no part of that answer.
+        for (QWidget* used : top.findChildren<QWidget*>()) {
+            auto* button = qobject_cast<QAbstractButton*>(used);
+            const auto* label = qobject_cast<QLabel*>(used);
+            if (!button && used->focusPolicy() == Qt::NoFocus)
                 continue;
-            ++count;
-            QJsonObject after = before;
-            after[property] = !before[property].toBool();
-            family.set(*dialog, property, after[property]);
-            QCOMPARE(family.values(*dialog), after);
-            family.set(*dialog, property, before[property]);
-            QCOMPARE(family.values(*dialog), before);
+            for (const bool active : {true, false}) {
+                QWidget other;
+                if (!active)
+                    other.show();
+                QVERIFY(QTest::qWaitForWindowActive(active ? &top : &other));
+                used->setFocus();
+                if (button)
+                    button->setDown(true);
+                dialog->hide();
+                QTEST(start(), "start");
+                QVERIFY(!(button && button->isDown()) && !(label && label->hasSelectedText()));
+            }
         }
     }
-    QVERIFY(count >= 7);
-}
+
+    void accidents_data()
+    {
+        textColumns({"family", "event", "button"});
+        textRow({"ApproveRemoteConnectionDialog", "evAllow", "allowButton"});
+        textRow({"RebootDialog", "evRebootNow", "rebootNowButton"});
+        textRow({"OptionDialog", "evDeactivate", "btnDeactivateAntiTheft"});
+        textRow({"ServiceDeskTicketDialog", "evSubmit", "bnSubmit"});
+    }
+    /// A prompt comes up while somebody types. Whatever they type, it allows, restarts, deletes and sends nothing
+    /// unless they have moved the focus to the button that does.
+    void accidents()
+    {
+        QFETCH(QString, family);
+        QFETCH(QString, event);
+        QFETCH(QString, button);
+        // Nobody answers the questions that a dialog asks before it closes.
+        QTimer timer;
+        connect(&timer, &QTimer::timeout, this, [] {
+            if (auto* question = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
+                question->reject();
+        });
+        timer.start(0);
+        const bool canBeFilledIn = family == QLatin1String("ServiceDeskTicketDialog");
+        std::mt19937 engine(7);
+        int answers = 0;
+        for (int round = 0; round < 100; ++round) {
+            const bool moves = round % 2 == 1;
+            const QVector<Qt::Key> keys = moves ? typedKeys + movingKeys : typedKeys;
+            dialogFamily(family).remove(gui(), family);
+            settle();
+            IBaseDialog* dialog = get(family, family);
+            if (auto* prompt = dynamic_cast<IApproveRemoteConnectionDialog*>(dialog))
+                prompt->setCountdown(1000);
+            showActive(dialog);
+            for (int i = 0; i < (moves ? 40 : 20); ++i) {
+                const QWidget* focused = window(dialog).focusWidget();
+                press(dialog, keys[static_cast<int>(engine() % static_cast<quint32>(keys.size()))]);
+                if (!takeEvents().contains(event))
+                    continue;
+                QVERIFY(moves && focused);
+                // A ticket that somebody has filled in is also sent with Return from its fields.
+                QVERIFY(focused->objectName() == button || canBeFilledIn);
+                ++answers;
+            }
+        }
+        // The one button that is hidden cannot be reached at all.
+        QCOMPARE(answers > 0, family != QLatin1String("OptionDialog"));
+    }
+
+    void dragging()
+    {
+        auto* dialog = show<IErrorMessageDialog>();
+        QWidget& top = window(dialog);
+        const QPoint start = top.pos();
+        const QPoint distance(25, -15);
+        // What is drawn on the window is a part of the grip.
+        const auto send = [surface = &child(dialog, "content")](QEvent::Type type, const QPoint& global) {
+            QMouseEvent event(type, surface->mapFromGlobal(global), global, Qt::LeftButton, Qt::LeftButton, {});
+            QCoreApplication::sendEvent(surface, &event);
+        };
+        const auto drag = [&](const QPoint& from) {
+            send(QEvent::MouseButtonPress, start + from);
+            send(QEvent::MouseMove, start + from + distance);
+            return top.pos() - start;
+        };
+        QCOMPARE(drag(QPoint(0, 0)), QPoint());
+        QCOMPARE(drag(QPoint(30, 80)), distance);
+        send(QEvent::MouseButtonRelease, top.pos());
+        send(QEvent::MouseMove, top.pos() + 3 * distance);
+        QCOMPARE(top.pos(), start + distance);
+    }
+
+    void rebootPeriods()
+    {
+        auto* dialog = show<IRebootDialog>();
+        auto& list = child<QComboBox>(dialog, "timeoutComboBox");
+        for (const char* text : {"10 minutes", "30 minutes", "1 hour", "4 hours"}) {
+            QCOMPARE(list.currentText(), QLatin1String(text));
+            QCOMPARE(dialog->getPostponePeriod(), list.currentIndex());
+            press(dialog, Qt::Key_Down);
+        }
+        for (const int period : {4, 3, -1, 2}) {
+            dialog->setPostponePeriod(period);
+            QCOMPARE(list.currentIndex(), period == 2 || period == 3 ? period : 0);
+        }
+        list.setCurrentIndex(-1);
+        QCOMPARE(dialog->getPostponePeriod(), 0);
+        QTest::sendKeyEvent(QTest::Click, &list, Qt::Key_Cancel, QString(), Qt::NoModifier);
+        QVERIFY(takeEvents().isEmpty());
+    }
+
+    void rebootReason()
+    {
+        auto* dialog = show<IRebootDialog>();
+        dialog->setMessage(QStringLiteral("<b>Updates</b> were <i>installed</i>."));
+        QCOMPARE(dialog->getMessage(), QStringLiteral("Updates were installed."));
+        dialog->setMessage(QStringLiteral("plain & simple < 5"));
+        QCOMPARE(dialog->getMessage(), QStringLiteral("plain & simple < 5"));
+        const auto& text = child<QTextEdit>(dialog, "rebootReasonLabel");
+        QVERIFY(text.isReadOnly());
+        auto& bar = *text.verticalScrollBar();
+        QTRY_VERIFY(!bar.isVisible());
+
+        // No pictures, also not those that come with the text.
+        QBuffer png;
+        QVERIFY(QImage(300, 300, QImage::Format_Mono).save(&png, "PNG"));
+        const QString data = QString::fromLatin1(png.data().toBase64());
+        dialog->setMessage(QStringLiteral("<img src='data:image/png;base64,%1'>").arg(data));
+        QVERIFY(text.document()->size().height() < 100);
+
+        dialog->setMessage(QStringLiteral("A line of the reason.<br>").repeated(500));
+        QTRY_VERIFY(bar.isVisible());
+        for (int i = 0; i < 3; ++i)
+            press(dialog, Qt::Key_Tab);
+        QVERIFY(bar.hasFocus());
+        press(dialog, Qt::Key_End);
+        QTRY_COMPARE(bar.value(), bar.maximum());
+        checkEvents(dialog, QStringLiteral("Return"), QStringLiteral("evPostpone"));
+    }
+
+    void proxyPorts()
+    {
+        auto* dialog = show<IOptionDialog>();
+        for (const quint16 port : {0, 1, 65535, 65534}) {
+            dialog->setProxyPort(port);
+            QCOMPARE(dialog->getProxyPort(), qMax<int>(port, 1));
+        }
+        dialog->setProxyEnabled(true);
+        auto& port = child<QSpinBox>(dialog, "spnbxPort");
+        QWheelEvent up(QPointF(5, 5), QPointF(), QPoint(), QPoint(0, 120), Qt::NoButton, Qt::NoModifier,
+                       Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&port, &up);
+        QVERIFY(dialog->getProxyPort() == 65535 - 1 && !port.hasFocus());
+        port.setFocus();
+        port.selectAll();
+        QTest::keyClicks(&port, QStringLiteral("99999"));
+        QCOMPARE(dialog->getProxyPort(), 9999);
+        port.selectAll();
+        QTest::keyClicks(&port, QStringLiteral("-x0"));
+        press(dialog, Qt::Key_Tab);
+        QVERIFY(dialog->getProxyPort() >= 1);
+    }
+
+    void hiddenParts()
+    {
+        auto* dialog = show<IOptionDialog>();
+        auto& deactivate = child(dialog, "btnDeactivateAntiTheft");
+        QVERIFY(!deactivate.isVisible());
+        dialog->setAutoUpdate(true);
+        for (const bool hide : {true, false}) {
+            deactivate.show();
+            dialog->hideDeactivateButton(hide);
+            QVERIFY(!deactivate.isVisible());
+            dialog->setAutoUpdateHidden(hide);
+            QCOMPARE(child(dialog, "chkAutoUpdate").isVisible(), !hide);
+            QVERIFY(dialog->isAutoUpdate());
+        }
+    }
+};
 
 GUI_TEST_MAIN(DialogsTest)
 #include "tst_dialogs.moc"
