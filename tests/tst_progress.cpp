@@ -4,9 +4,24 @@
 #include <QSignalSpy>
 #include <QTimer>
 
-#include <algorithm>
 #include <cmath>
 #include <limits>
+
+namespace {
+QTimer* timerWithInterval(QObject& dialog, int interval)
+{
+    for (auto* timer : dialog.findChildren<QTimer*>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (timer->interval() == interval)
+            return timer;
+    }
+    return nullptr;
+}
+
+QImage frame(int number)
+{
+    return QPixmap(QStringLiteral(":/images/progress bar/%1.png").arg(number)).toImage();
+}
+} // namespace
 
 /// The progress window: its percentage, its waiter and its spinner.
 class ProgressTest : public GuiTest {
@@ -21,132 +36,103 @@ public Q_SLOTS:
             current->startWaiter(0.0F);
     }
 
-private Q_SLOTS:
-    void percentage();
-    void changesAreReportedOnce();
-    void waiterCounts();
-    void waiterInterval();
-    void spinnerTurns();
-
 private:
-    static QPixmap nextPicture(IProgressDialog* dialog)
+    static QImage nextPicture(IProgressDialog* dialog)
     {
         act(dialog, QStringLiteral("updateProgressAnimation()"));
-        return *child<QLabel>(dialog, "messageIcon").pixmap();
+        return child<QLabel>(dialog, "messageIcon").pixmap()->toImage();
     }
 
     IProgressDialog* current = nullptr;
     QStringList steps;
-};
 
-namespace {
-QTimer* timerWithInterval(QObject& dialog, int interval)
-{
-    const auto timers = dialog.findChildren<QTimer*>(QString(), Qt::FindDirectChildrenOnly);
-    const auto found =
-        std::find_if(timers.begin(), timers.end(), [&](const QTimer* timer) { return timer->interval() == interval; });
-    return found == timers.end() ? nullptr : *found;
-}
-
-QImage frame(int number)
-{
-    return QPixmap(QStringLiteral(":/images/progress bar/%1.png").arg(number)).toImage();
-}
-} // namespace
-
-void ProgressTest::percentage()
-{
-    constexpr unsigned int huge = std::numeric_limits<unsigned int>::max();
-    auto* dialog = get<IProgressDialog>();
-    const auto check = [dialog](unsigned int value, unsigned int total, int percentage) {
-        dialog->setProgress(7, 100);
-        dialog->setProgress(value, total);
-        QCOMPARE(dialog->getProgress(), percentage);
-        QCOMPARE(child<QLabel>(dialog, "lblProgress").text(), QStringLiteral("%1%").arg(percentage));
-    };
-    // Totals below a hundred do nothing.
-    check(50, 0, 7);
-    check(99, 99, 7);
-    // Both are cut to whole numbers.
-    check(150, 199, 150);
-    check(1999, 1000, 199);
-    check(0, 100, 0);
-    check(huge, huge, 100);
-    check(huge, 200, 2147483647);
-    check(huge, 100, -1);
-}
-
-void ProgressTest::changesAreReportedOnce()
-{
-    auto* dialog = show<IProgressDialog>();
-    QSignalSpy changed(&window(dialog), SIGNAL(progressChanged()));
-    dialog->setProgress(0, 100);
-    QCOMPARE(changed.count(), 0);
-    for (const unsigned int total : {100U, 100U, 0U})
-        dialog->setProgress(50, total);
-    QCOMPARE(changed.count(), 1);
-
-    // OK does nothing, also where a host enables it.
-    QVERIFY(!child(dialog, "btnMessageInnerButton").isEnabled());
-    child(dialog, "btnMessageInnerButton").setEnabled(true);
-    checkEvents(dialog, QStringLiteral("btnMessageInnerButton"), QString());
-    dialog->hideProgressValue();
-    QVERIFY(!child(dialog, "lblProgress").isVisible());
-    QVERIFY(child(dialog, "messageIcon").isVisible());
-}
-
-void ProgressTest::waiterCounts()
-{
-    current = get<IProgressDialog>();
-    current->setProgress(99, 100);
-    QSignalSpy complete(&window(current), SIGNAL(sigWaiterComplete()));
-    QVERIFY(connect(&window(current), SIGNAL(progressChanged()), this, SLOT(noteStep())));
-    current->startWaiter(0.01F);
-    QTRY_COMPARE(complete.count(), 1);
-    QCOMPARE(steps.join(QLatin1Char(' ')), QStringLiteral("0% 10% 20% 0% 10% 20% 30% 40% 50% 60% 70% 80% 90% 100%"));
-    const QTimer* timer = timerWithInterval(window(current), 0);
-    QVERIFY(!timer->isActive());
-    QCOMPARE(timer->property("waiter_current_value").toInt(), 100);
-}
-
-void ProgressTest::waiterInterval()
-{
-    using Limits = std::numeric_limits<float>;
-    constexpr int longest = std::numeric_limits<int>::max();
-    auto* dialog = get<IProgressDialog>();
-    const auto check = [dialog](float seconds, int interval) {
-        dialog->startWaiter(seconds);
-        const QTimer* timer = timerWithInterval(window(dialog), interval);
-        QVERIFY(timer && timer->isActive());
-        QCOMPARE(timer->property("waiter_current_value").toInt(), 0);
-    };
-    check(1.5F, 150);
-    check(0.0199F, 1);
-    check(-3.0F, 0);
-    check(1.0e6F, 100000000);
-    check(std::nanf(""), 0);
-    check(Limits::max(), longest);
-    check(-Limits::infinity(), 0);
-    check(Limits::infinity(), longest);
-}
-
-void ProgressTest::spinnerTurns()
-{
-    auto* dialog = get<IProgressDialog>();
-    QVERIFY(timerWithInterval(window(dialog), 200)->isActive());
-    QImage before = nextPicture(dialog).toImage();
-    for (int i = 0; i < 24 && before != frame(24); ++i)
-        before = nextPicture(dialog).toImage();
-    for (int turn = 1; turn <= 2; ++turn) {
-        for (int number = 1; number <= 24; ++number)
-            QCOMPARE(nextPicture(dialog).toImage(), frame(number));
+private Q_SLOTS:
+    void percentage()
+    {
+        constexpr unsigned int huge = std::numeric_limits<unsigned int>::max();
+        auto* dialog = get<IProgressDialog>();
+        const auto check = [dialog](unsigned int value, unsigned int total, int percentage) {
+            dialog->setProgress(7, 100);
+            dialog->setProgress(value, total);
+            QCOMPARE(dialog->getProgress(), percentage);
+            QCOMPARE(child<QLabel>(dialog, "lblProgress").text(), QStringLiteral("%1%").arg(percentage));
+        };
+        // Totals below a hundred do nothing.
+        check(50, 0, 7);
+        check(99, 99, 7);
+        // Both are cut to whole numbers.
+        check(150, 199, 150);
+        check(1999, 1000, 199);
+        check(0, 100, 0);
+        check(huge, huge, 100);
+        check(huge, 200, 2147483647);
+        check(huge, 100, -1);
     }
 
-    // The next dialog takes the turn up where this one left it.
-    nextPicture(dialog);
-    QVERIFY(gui().deleteProgressDialogInstance());
-    QCOMPARE(nextPicture(get<IProgressDialog>()).toImage(), frame(2));
-}
+    void changesAreReportedOnce()
+    {
+        auto* dialog = show<IProgressDialog>();
+        QSignalSpy changed(&window(dialog), SIGNAL(progressChanged()));
+        dialog->setProgress(0, 100);
+        QCOMPARE(changed.count(), 0);
+        for (const unsigned int total : {100U, 100U, 0U})
+            dialog->setProgress(50, total);
+        QCOMPARE(changed.count(), 1);
+
+        // OK does nothing, also where a host enables it.
+        child(dialog, "btnMessageInnerButton").setEnabled(true);
+        checkEvents(dialog, QStringLiteral("btnMessageInnerButton"), QString());
+    }
+
+    void waiterCounts()
+    {
+        current = get<IProgressDialog>();
+        current->setProgress(99, 100);
+        QSignalSpy complete(&window(current), SIGNAL(sigWaiterComplete()));
+        QVERIFY(connect(&window(current), SIGNAL(progressChanged()), this, SLOT(noteStep())));
+        current->startWaiter(0.01F);
+        QTRY_COMPARE(complete.count(), 1);
+        QCOMPARE(steps.join(QLatin1Char(' ')),
+                 QStringLiteral("0% 10% 20% 0% 10% 20% 30% 40% 50% 60% 70% 80% 90% 100%"));
+        const QTimer* timer = timerWithInterval(window(current), 0);
+        QVERIFY(!timer->isActive());
+        QCOMPARE(timer->property("waiter_current_value").toInt(), 100);
+    }
+
+    void waiterInterval()
+    {
+        using Limits = std::numeric_limits<float>;
+        constexpr int longest = std::numeric_limits<int>::max();
+        auto* dialog = get<IProgressDialog>();
+        const auto check = [dialog](float seconds, int interval) {
+            dialog->startWaiter(seconds);
+            const QTimer* timer = timerWithInterval(window(dialog), interval);
+            QVERIFY(timer && timer->isActive());
+            QCOMPARE(timer->property("waiter_current_value").toInt(), 0);
+        };
+        check(1.5F, 150);
+        check(0.0199F, 1);
+        check(-3.0F, 0);
+        check(1.0e6F, 100000000);
+        check(std::nanf(""), 0);
+        check(Limits::max(), longest);
+        check(-Limits::infinity(), 0);
+        check(Limits::infinity(), longest);
+    }
+
+    void spinnerTurns()
+    {
+        auto* dialog = get<IProgressDialog>();
+        for (int i = 0; i < 24 && nextPicture(dialog) != frame(24); ++i) { }
+        for (int i = 0; i < 48; ++i)
+            QCOMPARE(nextPicture(dialog), frame(i % 24 + 1));
+
+        // The next dialog takes the turn up where this one left it.
+        nextPicture(dialog);
+        QVERIFY(gui().deleteProgressDialogInstance());
+        QCOMPARE(nextPicture(get<IProgressDialog>()), frame(2));
+    }
+};
 
 GUI_TEST_MAIN(ProgressTest)
 #include "tst_progress.moc"
