@@ -3,6 +3,7 @@
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QPushButton>
+#include <QRandomGenerator>
 #include <QScreen>
 #include <QTimer>
 #include <QTranslator>
@@ -11,6 +12,9 @@
 
 namespace {
 using Prompt = IApproveRemoteConnectionDialog;
+using Limits = std::numeric_limits<qint64>;
+
+const QStringList timeout{QStringLiteral("evTimeout")};
 
 /// Knows one key of the host's messages.
 class HostTranslator final : public QTranslator {
@@ -31,249 +35,171 @@ public:
 class ApprovePromptTest : public GuiTest {
     Q_OBJECT
 
+    static QRect onScreen(const QWidget& widget)
+    {
+        return {widget.mapToGlobal(QPoint()), widget.size()};
+    }
+    static QString buttonTexts(Prompt* prompt)
+    {
+        return child<QPushButton>(prompt, "allowButton").text() + child<QPushButton>(prompt, "cancelButton").text();
+    }
+    static QTimer& timer(Prompt* prompt)
+    {
+        return *window(prompt).findChild<QTimer*>();
+    }
+
 private Q_SLOTS:
-    void titles();
-    void messages();
-    void countdown();
-    void timeoutIsReportedTwice();
-    void timerRunsWhileShown();
-    void onlyButtonsAnswer();
-    void cascade();
-    void deleteAll();
-    void scaled();
-    void deletedInItsHandler();
-
-private:
-    static QRect onScreen(const QWidget& widget);
-    static QString buttonTexts(Prompt* prompt);
-    static QTimer& timer(Prompt* prompt);
-};
-
-QRect ApprovePromptTest::onScreen(const QWidget& widget)
-{
-    return {widget.mapToGlobal(QPoint()), widget.size()};
-}
-
-QString ApprovePromptTest::buttonTexts(Prompt* prompt)
-{
-    return child<QPushButton>(prompt, "allowButton").text() + child<QPushButton>(prompt, "cancelButton").text();
-}
-
-QTimer& ApprovePromptTest::timer(Prompt* prompt)
-{
-    return *window(prompt).findChild<QTimer*>();
-}
-
-void ApprovePromptTest::titles()
-{
-    const QPair<int, const char*> kinds[] = {{0, "Remote control"},
-                                             {1, "Remote tools"},
-                                             {2, "Remote control"},
-                                             {3, "Remote access"},
-                                             {7, ""},
-                                             {std::numeric_limits<int>::min(), ""}};
-    // A single mark in brackets would be replaced by what stands for unsaved changes.
-    const QString name = QStringLiteral("<b>J</b> &amp; %1 - Remote tools\n\u2066[*]");
-    const QString shown = QStringLiteral("<b>J</b> &amp; %1 - Remote tools\uFFFD\uFFFD[*][*] - ");
-    auto* prompt = get<Prompt>();
-    prompt->setRequesterName(QStringLiteral("J"));
-    QCOMPARE(window(prompt).windowTitle(), QStringLiteral("J - Remote control"));
-    for (const auto& kind : kinds) {
-        prompt->setSessionType(kind.first);
-        prompt->setRequesterName(name);
-        QCOMPARE(window(prompt).windowTitle(), shown + QLatin1String(kind.second));
-        prompt->setSessionType(kind.first);
-        QCOMPARE(window(prompt).windowTitle(), shown + QLatin1String(kind.second));
-        QCOMPARE(prompt->getRequesterName(), name);
-        QCOMPARE(prompt->getSessionType(), kind.first);
-    }
-}
-
-void ApprovePromptTest::messages()
-{
-    HostTranslator translator;
-    QCoreApplication::installTranslator(&translator);
-    auto* prompt = get<Prompt>();
-    const auto check = [&](const QString& text, bool translate, const QString& kept, const QString& shown) {
-        prompt->setMessage(text, translate);
-        QCOMPARE(prompt->getMessage(), kept);
-        QCOMPARE(child<QPlainTextEdit>(prompt, "messageTextEdit").toPlainText(), shown);
-    };
-    const QString key = QStringLiteral("askControl");
-    check(key, false, key, key);
-    check(key, true, QStringLiteral("May I?"), QStringLiteral("May I?"));
-    const QString markup = QStringLiteral("<a href=\"x\">y</a>\n\t%1 &amp;");
-    check(markup + QChar(0x202E), true, markup + QChar(0x202E), markup + QChar(0xFFFD));
-}
-
-void ApprovePromptTest::countdown()
-{
-    for (int onCancel : {1, -5, 0}) {
-        auto* prompt = get<Prompt>(QString::number(onCancel));
-        const QString counting = onCancel != 0 ? QStringLiteral("AllowCancel(%1)") : QStringLiteral("Allow(%1)Cancel");
-        QCOMPARE(prompt->getCountdownOnCancel(), 1);
-        prompt->setCountdownOnCancel(onCancel);
-        prompt->setCountdown(30);
-        QCOMPARE(buttonTexts(prompt), QStringLiteral("AllowCancel"));
-        prompt->show();
-        prompt->setCountdown(8);
-        QCOMPARE(buttonTexts(prompt), counting.arg(30));
-        act(prompt, QStringLiteral("slCountdownTimerTick()"));
-        QCOMPARE(buttonTexts(prompt), counting.arg(7));
-        QCOMPARE(prompt->getCountdown(), 7);
-        QVERIFY(takeEvents().isEmpty());
-
-        prompt->setCountdown(std::numeric_limits<qint64>::max());
-        act(prompt, QStringLiteral("slCountdownTimerTick()"));
-        QCOMPARE(window(prompt).size(), QSize(500, 150));
-        prompt->setCountdown(std::numeric_limits<qint64>::min());
-        act(prompt, QStringLiteral("slCountdownTimerTick()"));
-        QCOMPARE(takeEvents(), QStringList{QStringLiteral("evTimeout")});
-        QVERIFY(prompt->getCountdown() < 0);
-    }
-}
-
-void ApprovePromptTest::timeoutIsReportedTwice()
-{
-    const QStringList timeout{QStringLiteral("evTimeout")};
-    auto* prompt = get<Prompt>();
-    prompt->show();
-    QCOMPARE(takeEvents(), timeout);
-    QTRY_COMPARE(prompt->getCountdown(), -1);
-    QCOMPARE(takeEvents(), timeout);
-    QVERIFY(!timer(prompt).isActive());
-    checkEvents(prompt, QStringLiteral("allowButton"), QStringLiteral("evAllow"));
-
-    prompt->hide();
-    prompt->setCountdown(1);
-    prompt->show();
-    QCOMPARE(buttonTexts(prompt), QStringLiteral("AllowCancel(1)"));
-    QTRY_COMPARE(events.size(), 1);
-    QCOMPARE(takeEvents(), timeout);
-    QVERIFY(!timer(prompt).isActive());
-}
-
-void ApprovePromptTest::timerRunsWhileShown()
-{
-    auto* prompt = get<Prompt>();
-    QCOMPARE(timer(prompt).interval(), 1000);
-    prompt->setCountdown(30);
-    QVERIFY(!timer(prompt).isActive());
-    prompt->show();
-    QVERIFY(timer(prompt).isActive());
-    prompt->hide();
-    QVERIFY(!timer(prompt).isActive());
-    QCOMPARE(prompt->getCountdown(), 30);
-    QTimer::singleShot(0, &timer(prompt), [&] {
-        QVERIFY(timer(prompt).isActive());
-        prompt->done(5);
-    });
-    QCOMPARE(prompt->exec(), 5);
-    QVERIFY(!timer(prompt).isActive());
-}
-
-void ApprovePromptTest::onlyButtonsAnswer()
-{
-    auto* prompt = get<Prompt>();
-    prompt->setCountdown(30);
-    showActive(prompt);
-    QCOMPARE(window(prompt).windowFlags(),
-             Qt::Dialog | Qt::WindowTitleHint | Qt::WindowStaysOnTopHint | Qt::CustomizeWindowHint);
-    auto& allow = child<QPushButton>(prompt, "allowButton");
-    auto& cancel = child<QPushButton>(prompt, "cancelButton");
-    QVERIFY(cancel.hasFocus() && cancel.isDefault() && !allow.isDefault());
-    checkEvents(prompt, QStringLiteral("Escape accept() reject() close"), QString());
-    child(prompt, "messageTextEdit").setFocus();
-    checkEvents(prompt, QStringLiteral("Return Enter Escape Space"), QString());
-    QVERIFY(timer(prompt).isActive());
-    cancel.setFocus();
-    checkEvents(prompt, QStringLiteral("Return Space"), QStringLiteral("evCancel"));
-    QVERIFY(!timer(prompt).isActive());
-    allow.setFocus();
-    checkEvents(prompt, QStringLiteral("Space"), QStringLiteral("evAllow"));
-}
-
-void ApprovePromptTest::cascade()
-{
-    for (const float ratio : {1.0F, 1.2F}) {
-        gui().setRatio(ratio);
-        // More than fit into one cascade on the screen.
-        QVector<Prompt*> prompts;
-        for (int i = 0; i < (ratio > 1.0F ? 20 : 40); ++i) {
-            auto* prompt = get<Prompt>(QString::number(i));
-            prompt->setCountdown(30);
-            prompt->show();
-            const QRect place = window(prompt).frameGeometry();
-            QVERIFY(QGuiApplication::primaryScreen()->availableGeometry().contains(place));
-            const QRect allow = onScreen(child(prompt, "allowButton"));
-            for (Prompt* other : qAsConst(prompts)) {
-                // Enough of a title bar stays in sight to read a name and to grab it.
-                const QPoint offset = place.topLeft() - window(other).pos();
-                QVERIFY2(qMax(qAbs(offset.x()), qAbs(offset.y())) >= 20, qPrintable(QString::number(i)));
-                // A click meant to refuse one request allows no other.
-                QVERIFY2(!allow.intersects(onScreen(child(other, "cancelButton"))), qPrintable(QString::number(i)));
-            }
-            prompts << prompt;
+    void texts()
+    {
+        auto* prompt = get<Prompt>();
+        const char* const kinds[] = {"Remote control", "Remote tools", "Remote control", "Remote access", ""};
+        for (int type = 0; type < int(std::size(kinds)); ++type) {
+            prompt->setRequesterName(QStringLiteral("Jane - [*]"));
+            prompt->setSessionType(type);
+            prompt->setRequesterName(QStringLiteral("J - [*]"));
+            QCOMPARE(window(prompt).windowTitle(), QStringLiteral("J - [*][*] - ") + QLatin1String(kinds[type]));
         }
-        // One that is not shown takes no place.
-        prompts.last()->hide();
-        auto* next = get<Prompt>(QStringLiteral("x"));
-        next->show();
-        QCOMPARE(window(next).geometry(), window(prompts.last()).geometry());
-        gui().deleteAllApproveRemoteConnectionDialogInstances();
-        settle();
+        HostTranslator translator;
+        QCoreApplication::installTranslator(&translator);
+        for (const bool translated : {true, false}) {
+            prompt->setMessage(QStringLiteral("askControl"), translated);
+            QCOMPARE(prompt->getMessage(), QLatin1String(translated ? "May I?" : "askControl"));
+            QCOMPARE(child<QPlainTextEdit>(prompt, "messageTextEdit").toPlainText(), prompt->getMessage());
+        }
     }
-}
 
-void ApprovePromptTest::deleteAll()
-{
-    QVERIFY(!gui().deleteAllApproveRemoteConnectionDialogInstances());
-    auto* prompt = get<Prompt>(QStringLiteral("1"));
-    QCOMPARE(prompt->getConnectionId(), QStringLiteral("1"));
-    const QPointer<QWidget> one = &window(prompt);
-    const QPointer<QWidget> empty = &window(get<Prompt>());
-    const QPointer<QWidget> message = &window(get<IErrorMessageDialog>());
-    QVERIFY(gui().deleteAllApproveRemoteConnectionDialogInstances());
-    QVERIFY(!gui().deleteAllApproveRemoteConnectionDialogInstances());
-    settle();
-    QVERIFY(!one && !empty && message);
-}
+    void countdown()
+    {
+        // Whatever host, person and clock do, in any order.
+        QRandomGenerator random(3);
+        auto* prompt = get<Prompt>();
+        QCOMPARE(timer(prompt).interval(), 1000);
+        timer(prompt).setInterval(1000000);
+        qint64 left = 0;
+        bool onCancel = true;
+        bool runs = false;
+        QString allowText = QStringLiteral("Allow");
+        QString cancelText = QStringLiteral("Cancel");
+        for (int step = 0; step < 1000; ++step) {
+            QStringList expected;
+            const int action = random.bounded(8);
+            if (action == 0) {
+                const qint64 values[] = {0, 1, 1, 2, 3, 30, Limits::max(), Limits::min()};
+                prompt->setCountdown(left = values[random.bounded(int(std::size(values)))]);
+            } else if (action == 1) {
+                const int flag = random.bounded(-1, 2);
+                prompt->setCountdownOnCancel(flag);
+                onCancel = flag != 0;
+            } else if (action == 2) {
+                prompt->hide();
+                runs = false;
+            } else if (action < 6) {
+                action == 3 ? prompt->show() : act(prompt, QStringLiteral("slCountdownTimerTick()"));
+                left -= action == 3 || left == Limits::min() ? 0 : 1;
+                runs = action == 3 || (runs && left > 0);
+                expected = left <= 0 ? timeout : QStringList();
+                if (left > 0)
+                    (onCancel ? cancelText : allowText) =
+                        QStringLiteral("%1(%2)").arg(QLatin1String(onCancel ? "Cancel" : "Allow")).arg(left);
+            } else if (window(prompt).isVisible()) {
+                click(prompt, action == 6 ? "allowButton" : "cancelButton");
+                expected << QLatin1String(action == 6 ? "evAllow" : "evCancel");
+                runs = false;
+            }
+            QCOMPARE(takeEvents(), expected);
+            QCOMPARE(prompt->getCountdown(), left);
+            QCOMPARE(timer(prompt).isActive(), runs);
+            QCOMPARE(buttonTexts(prompt), allowText + cancelText);
+            QCOMPARE(window(prompt).size(), QSize(500, 150));
+        }
+    }
 
-void ApprovePromptTest::scaled()
-{
-    for (float ratio : {0.8F, 1.5F}) {
-        auto* prompt = get<Prompt>(QString::number(ratio));
-        const QPoint centre = window(prompt).geometry().center();
-        prompt->setRatio(ratio);
-        QVERIFY((window(prompt).geometry().center() - centre).manhattanLength() <= 2);
+    void timeoutIsReportedTwice()
+    {
+        auto* prompt = get<Prompt>();
         prompt->show();
-        QCOMPARE(window(prompt).size(), QSize(static_cast<int>(500 * ratio), static_cast<int>(150 * ratio)));
-        QCOMPARE(child(prompt, "allowButton").minimumWidth(), static_cast<int>(80 * ratio));
+        QCOMPARE(takeEvents(), timeout);
+        QTRY_COMPARE(prompt->getCountdown(), -1);
+        QCOMPARE(takeEvents(), timeout);
+        QVERIFY(!timer(prompt).isActive());
+        checkEvents(prompt, QStringLiteral("allowButton"), QStringLiteral("evAllow"));
     }
-}
 
-void ApprovePromptTest::deletedInItsHandler()
-{
-    for (const char* button : {"allowButton", "cancelButton", ""}) {
-        const QString id = QLatin1String(button);
-        auto* prompt = get<Prompt>(id);
-        const QPointer<QWidget> guard = &window(prompt);
-        // Without a button the time is over at once.
-        prompt->setCountdown(id.isEmpty() ? 0 : 30);
-        onNextEvent([&] { delete prompt; });
-        prompt->show();
-        if (!id.isEmpty())
-            click(prompt, button);
-        QVERIFY(!guard);
-        QVERIFY(!gui().deleteApproveRemoteConnectionDialogInstance(id));
+    void onlyButtonsAnswer()
+    {
+        auto* prompt = get<Prompt>();
+        prompt->setCountdown(30);
+        showActive(prompt);
+        auto& allow = child<QPushButton>(prompt, "allowButton");
+        auto& cancel = child<QPushButton>(prompt, "cancelButton");
+        QVERIFY(cancel.hasFocus() && cancel.isDefault() && !allow.isDefault());
+        checkEvents(prompt, QStringLiteral("Escape accept() reject() close"), QString());
+        child(prompt, "messageTextEdit").setFocus();
+        checkEvents(prompt, QStringLiteral("Return Enter Escape Space"), QString());
+        cancel.setFocus();
+        checkEvents(prompt, QStringLiteral("Return Space"), QStringLiteral("evCancel"));
+        allow.setFocus();
+        checkEvents(prompt, QStringLiteral("Space"), QStringLiteral("evAllow"));
     }
-    // exec() reports a time that is over from within its event loop.
-    auto* late = get<Prompt>();
-    for (const int result : {4, 0}) {
-        onNextEvent([&] { result != 0 ? late->done(result) : delete late; });
-        QCOMPARE(late->exec(), result);
+
+    void cascade()
+    {
+        for (const float ratio : {1.0F, 1.2F}) {
+            gui().setRatio(ratio);
+            // More than fit into one cascade on the screen.
+            QVector<Prompt*> prompts;
+            for (int i = 0; i < (ratio > 1.0F ? 20 : 40); ++i) {
+                auto* prompt = get<Prompt>(QString::number(i));
+                prompt->setCountdown(30);
+                prompt->show();
+                const QRect place = window(prompt).frameGeometry();
+                QVERIFY(QGuiApplication::primaryScreen()->availableGeometry().contains(place));
+                const QRect allow = onScreen(child(prompt, "allowButton"));
+                for (Prompt* other : qAsConst(prompts)) {
+                    // Enough of a title bar stays in sight to read a name and to grab it.
+                    const QPoint offset = place.topLeft() - window(other).pos();
+                    QVERIFY2(qMax(qAbs(offset.x()), qAbs(offset.y())) >= 20, qPrintable(QString::number(i)));
+                    // A click meant to refuse one request allows no other.
+                    QVERIFY2(!allow.intersects(onScreen(child(other, "cancelButton"))), qPrintable(QString::number(i)));
+                }
+                prompts << prompt;
+            }
+            // One that is not shown takes no place.
+            prompts.last()->hide();
+            auto* next = get<Prompt>(QStringLiteral("x"));
+            next->show();
+            QCOMPARE(window(next).geometry(), window(prompts.last()).geometry());
+            const QPointer<QWidget> guard = &window(next);
+            QVERIFY(gui().deleteAllApproveRemoteConnectionDialogInstances());
+            QVERIFY(!gui().deleteAllApproveRemoteConnectionDialogInstances());
+            settle();
+            QVERIFY(!guard);
+        }
     }
-}
+
+    void deletedInItsHandler()
+    {
+        for (const char* button : {"allowButton", "cancelButton", ""}) {
+            const QString id = QLatin1String(button);
+            auto* prompt = get<Prompt>(id);
+            const QPointer<QWidget> guard = &window(prompt);
+            // Without a button the time is over at once.
+            prompt->setCountdown(id.isEmpty() ? 0 : 30);
+            onNextEvent([&] { delete prompt; });
+            prompt->show();
+            if (!id.isEmpty())
+                click(prompt, button);
+            QVERIFY(!guard);
+            QVERIFY(!gui().deleteApproveRemoteConnectionDialogInstance(id));
+        }
+        // exec() reports a time that is over from within its event loop.
+        auto* late = get<Prompt>();
+        for (const int result : {4, 0}) {
+            onNextEvent([&] { result != 0 ? late->done(result) : delete late; });
+            QCOMPARE(late->exec(), result);
+        }
+    }
+};
 
 GUI_TEST_MAIN(ApprovePromptTest)
 #include "tst_approveprompt.moc"
