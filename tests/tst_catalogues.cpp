@@ -5,20 +5,6 @@
 #include <QTranslator>
 #include <QXmlStreamReader>
 
-/// The translation files: complete, in step with the sources, and what the library really carries.
-class CataloguesTest : public GuiTest {
-    Q_OBJECT
-
-private Q_SLOTS:
-    void initTestCase();
-    void catalogue_data();
-    void catalogue();
-
-private:
-    /// Copies of the catalogues, brought up to date with the sources.
-    const QTemporaryDir updated;
-};
-
 namespace {
 const QStringList languages = QStringLiteral(LANGUAGES).split(QLatin1Char(' '));
 const QString directory = QStringLiteral(SOURCES "/resources/translations");
@@ -48,71 +34,83 @@ QStringList placeholders(const QString& text)
 }
 } // namespace
 
-void CataloguesTest::initTestCase()
-{
-    GuiTest::initTestCase();
-    QStringList arguments = QStringLiteral(LUPDATE_ARGUMENTS).split(QLatin1Char(' ')) << QStringLiteral("-ts");
-    for (const QString& language : languages) {
-        const QString copy = path(updated.path(), language);
-        QVERIFY(QFile::copy(path(directory, language), copy));
-        QVERIFY(QFile::setPermissions(copy, QFile::ReadOwner | QFile::WriteOwner));
-        arguments << copy;
-    }
-    QProcess lupdate;
-    lupdate.setWorkingDirectory(QStringLiteral(SOURCES));
-    lupdate.start(QStringLiteral(LUPDATE), arguments);
-    QVERIFY(lupdate.waitForFinished() && lupdate.exitStatus() == QProcess::NormalExit && lupdate.exitCode() == 0);
-}
+/// The translation files: complete, in step with the sources, and what the library really carries.
+class CataloguesTest : public GuiTest {
+    Q_OBJECT
 
-void CataloguesTest::catalogue_data()
-{
-    QTest::addColumn<QString>("language");
-    for (const QString& language : languages)
-        QTest::newRow(qPrintable(language)) << language;
-}
-
-void CataloguesTest::catalogue()
-{
-    QFETCH(QString, language);
-    const QByteArray catalogue = contents(path(directory, language));
-    QVERIFY2(contents(path(updated.path(), language)) == catalogue, "build the target update-translations");
-    QVERIFY2(!catalogue.contains("type=\"unfinished\""), "a text is not translated");
-    QTranslator library;
-    QVERIFY(library.load(QStringLiteral(":/translations/Gui_") + language));
-    QMap<QString, QString> texts;
-    int number = -1;
-    for (QXmlStreamReader xml(catalogue); !xml.atEnd(); xml.readNext()) {
-        const QString element = xml.isStartElement() ? xml.name().toString() : QString();
-        const bool isTranslation =
-            element == QLatin1String("numerusform") || (element == QLatin1String("translation") && number < 0);
-        if (element == QLatin1String("message")) {
-            number = xml.attributes().hasAttribute(QLatin1String("numerus")) ? 1 : -1;
-            texts.remove(QStringLiteral("comment"));
-        } else if (isTranslation || QStringLiteral("name source comment").split(QLatin1Char(' ')).contains(element)) {
-            texts[element] = xml.readElementText();
+private Q_SLOTS:
+    void initTestCase()
+    {
+        GuiTest::initTestCase();
+        QStringList arguments = QStringLiteral(LUPDATE_ARGUMENTS).split(QLatin1Char(' ')) << QStringLiteral("-ts");
+        for (const QString& language : languages) {
+            const QString copy = path(updated.path(), language);
+            QVERIFY(QFile::copy(path(directory, language), copy));
+            QVERIFY(QFile::setPermissions(copy, QFile::ReadOwner | QFile::WriteOwner));
+            arguments << copy;
         }
-        if (!isTranslation)
-            continue;
-        const QString translation = texts[element];
-        const QString source = texts[QStringLiteral("source")];
-        const QByteArray context = texts[QStringLiteral("name")].toUtf8();
-        QVERIFY2(!translation.isEmpty(), qPrintable(source));
-        QCOMPARE(placeholders(translation), placeholders(source));
-        // Where a value follows in the same line, and where it does not.
-        QCOMPARE(translation.endsWith(QLatin1Char(' ')), source.endsWith(QLatin1Char(' ')));
-        // The prompt takes what follows the first bracket on its buttons for the countdown.
-        QVERIFY(context != "ApproveRemoteConnectionDialog" || !translation.contains(QLatin1Char('(')));
-        if (language == QLatin1String("en") && number < 0)
-            QCOMPARE(translation, source);
-        const QByteArray comment = texts[QStringLiteral("comment")].toUtf8();
-        if (number < 2) {
-            QCOMPARE(library.translate(context.constData(), source.toUtf8().constData(), comment.constData(), number),
-                     translation);
-        }
-        number = number < 0 ? -1 : 2; // The other plural forms stand for numbers that depend on the language.
+        QProcess lupdate;
+        lupdate.setWorkingDirectory(QStringLiteral(SOURCES));
+        lupdate.start(QStringLiteral(LUPDATE), arguments);
+        QVERIFY(lupdate.waitForFinished() && lupdate.exitStatus() == QProcess::NormalExit && lupdate.exitCode() == 0);
     }
-    QVERIFY2(texts.contains(QStringLiteral("name")), "nothing was read");
-}
+
+    void catalogue_data()
+    {
+        QTest::addColumn<QString>("language");
+        for (const QString& language : languages)
+            QTest::newRow(qPrintable(language)) << language;
+    }
+
+    void catalogue()
+    {
+        QFETCH(QString, language);
+        const QByteArray catalogue = contents(path(directory, language));
+        QVERIFY2(contents(path(updated.path(), language)) == catalogue, "build the target update-translations");
+        QVERIFY2(!catalogue.contains("type=\"unfinished\""), "a text is not translated");
+        QTranslator library;
+        QVERIFY(library.load(QStringLiteral(":/translations/Gui_") + language));
+        QMap<QString, QString> texts;
+        int number = -1;
+        for (QXmlStreamReader xml(catalogue); !xml.atEnd(); xml.readNext()) {
+            const QString element = xml.isStartElement() ? xml.name().toString() : QString();
+            const bool isTranslation =
+                element == QLatin1String("numerusform") || (element == QLatin1String("translation") && number < 0);
+            if (element == QLatin1String("message")) {
+                number = xml.attributes().hasAttribute(QLatin1String("numerus")) ? 1 : -1;
+                texts.remove(QStringLiteral("comment"));
+            } else if (isTranslation
+                       || QStringLiteral("name source comment").split(QLatin1Char(' ')).contains(element)) {
+                texts[element] = xml.readElementText();
+            }
+            if (!isTranslation)
+                continue;
+            const QString translation = texts[element];
+            const QString source = texts[QStringLiteral("source")];
+            const QByteArray context = texts[QStringLiteral("name")].toUtf8();
+            QVERIFY2(!translation.isEmpty(), qPrintable(source));
+            QCOMPARE(placeholders(translation), placeholders(source));
+            // Where a value follows in the same line, and where it does not.
+            QCOMPARE(translation.endsWith(QLatin1Char(' ')), source.endsWith(QLatin1Char(' ')));
+            // The prompt takes what follows the first bracket on its buttons for the countdown.
+            QVERIFY(context != "ApproveRemoteConnectionDialog" || !translation.contains(QLatin1Char('(')));
+            if (language == QLatin1String("en") && number < 0)
+                QCOMPARE(translation, source);
+            const QByteArray comment = texts[QStringLiteral("comment")].toUtf8();
+            if (number < 2) {
+                QCOMPARE(
+                    library.translate(context.constData(), source.toUtf8().constData(), comment.constData(), number),
+                    translation);
+            }
+            number = number < 0 ? -1 : 2; // The other plural forms stand for numbers that depend on the language.
+        }
+        QVERIFY2(texts.contains(QStringLiteral("name")), "nothing was read");
+    }
+
+private:
+    /// Copies of the catalogues, brought up to date with the sources.
+    const QTemporaryDir updated;
+};
 
 GUI_TEST_MAIN(CataloguesTest)
 #include "tst_catalogues.moc"

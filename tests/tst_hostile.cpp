@@ -16,30 +16,6 @@
 #include <unistd.h>
 #endif
 
-/// Hostile texts through all that takes a text: what is shown is the text itself, what is read back is what went in,
-/// nothing else changes, and nothing is opened or takes long.
-class HostileTest : public GuiTest {
-    Q_OBJECT
-
-public:
-    HostileTest();
-
-private Q_SLOTS:
-    void trapWorks();
-    void setters_data();
-    void setters();
-    void longTexts_data();
-    void longTexts();
-    void pasting_data();
-    void pasting();
-    void branding_data();
-    void branding();
-    void noNetworkCode();
-
-private:
-    QMap<QString, QString> readingsWith(const QString& text);
-};
-
 namespace {
 const QTemporaryDir room;
 const QString bait = room.filePath(QStringLiteral("bait.png"));
@@ -204,179 +180,190 @@ HostileTest::HostileTest()
     takeOpened();
 }
 
-void HostileTest::trapWorks()
-{
-#ifndef Q_OS_LINUX
-    QSKIP("opened files are noticed on Linux only");
-#endif
-    QLabel careless(u"<img src=\"file://BAIT\">"_s);
-    careless.grab();
-    QVERIFY(takeOpened());
-    QVERIFY(!takeOpened());
-}
+/// Hostile texts through all that takes a text: what is shown is the text itself, what is read back is what went in,
+/// nothing else changes, and nothing is opened or takes long.
+class HostileTest : public GuiTest {
+    Q_OBJECT
 
-void HostileTest::setters_data()
-{
-    QTest::addColumn<QString>("family");
-    QTest::addColumn<QString>("operation");
-    QTest::addColumn<int>("position");
-    for (const Family& family : dialogFamilies()) {
-        for (const Operation& operation : family.operations) {
-            for (int i = 0; i < operation.argumentTypes.size(); ++i) {
-                const QJsonValue::Type type = operation.argumentTypes[i];
-                if (type == QJsonValue::String || type == QJsonValue::Array)
-                    QTest::addRow("%s.%s #%d", qPrintable(family.name), qPrintable(operation.name), i)
-                        << family.name << operation.name << i;
+public:
+    HostileTest();
+
+private Q_SLOTS:
+    void trapWorks()
+    {
+#ifndef Q_OS_LINUX
+        QSKIP("opened files are noticed on Linux only");
+#endif
+        QLabel careless(u"<img src=\"file://BAIT\">"_s);
+        careless.grab();
+        QVERIFY(takeOpened());
+        QVERIFY(!takeOpened());
+    }
+
+    void setters_data()
+    {
+        QTest::addColumn<QString>("family");
+        QTest::addColumn<QString>("operation");
+        QTest::addColumn<int>("position");
+        for (const Family& family : dialogFamilies()) {
+            for (const Operation& operation : family.operations) {
+                for (int i = 0; i < operation.argumentTypes.size(); ++i) {
+                    const QJsonValue::Type type = operation.argumentTypes[i];
+                    if (type == QJsonValue::String || type == QJsonValue::Array)
+                        QTest::addRow("%s.%s #%d", qPrintable(family.name), qPrintable(operation.name), i)
+                            << family.name << operation.name << i;
+                }
             }
         }
     }
-}
 
-/// Sets a text in a new dialog.
-QMap<QString, QString> HostileTest::readingsWith(const QString& text)
-{
-    QFETCH(QString, family);
-    QFETCH(QString, operation);
-    QFETCH(int, position);
-    IBaseDialog* dialog = get(family, id);
-    dialog->show();
-    if (auto* session = dynamic_cast<IRemoteConnectionDialog*>(dialog)) {
-        session->startRemoteToolsSession(id, 1, u"user"_s, 0, true);
-        click(dialog, "fileTransferInfoPanelCheckBox");
+    void setters()
+    {
+        QFETCH(QString, family);
+        const QMap<QString, QString> before = readingsWith(harmless);
+        const QStringList holders = before.keys(harmless).filter(u"()"_s);
+        QVERIFY2(holders.size() <= 1, qPrintable(holders.join(u' ')));
+        for (const QString& text : corpus) {
+            const QMap<QString, QString> after = readingsWith(text);
+            QVERIFY2(!takeOpened(), qPrintable(text));
+            QCOMPARE(after.keys(), before.keys());
+            for (const QString& place : before.keys()) {
+                const bool isRich = place == u"log"_s || family == u"RebootDialog"_s;
+                const bool isSafe = family.contains(u"RemoteConnection"_s) && !place.endsWith(u"()"_s);
+                const QStringList forms = isSafe ? deceptions.value(text, {text}) : QStringList{text, text.trimmed()};
+                const bool matches = std::any_of(forms.cbegin(), forms.cend(), [&](const QString& form) {
+                    const QString expected = QString(before[place]).replace(harmless, form);
+                    // Blanks collapse in rich text. What is shortened can be read in full as a tool tip.
+                    return isWhole(after[place], expected)
+                        || (isRich && isWhole(after[place].simplified(), expected.simplified()))
+                        || (place.endsWith(u" tip"_s) && after[place] == form);
+                });
+                QVERIFY2(matches, qPrintable(u"%1 at %2: %3"_s.arg(text, place, after[place])));
+            }
+        }
     }
-    const auto set = [&](const QString& argument) {
+
+    void longTexts_data()
+    {
+        setters_data();
+    }
+
+    void longTexts()
+    {
+        QFETCH(QString, family);
+        QFETCH(QString, operation);
+        QFETCH(int, position);
         const Operation& setter = dialogFamily(family).operation(operation);
-        setter.call(*dialog, argumentsWith(setter, position, argument));
+        IBaseDialog* dialog = get(family, id);
+        const auto timeFor = [&](const QString& piece) {
+            constexpr int length = hasSanitizer ? 1 << 17 : 1 << 20;
+            const QJsonArray arguments =
+                argumentsWith(setter, position, piece.repeated(length / piece.size() + 1).left(length));
+            // The processor's time, which other programs do not lengthen.
+            const std::clock_t start = std::clock();
+            setter.call(*dialog, arguments);
+            return qint64(std::clock() - start) * 1000 / CLOCKS_PER_SEC;
+        };
+        for (const QString& piece : {u"<b><i>"_s, u"<"_s, u"&"_s, u"&lt;"_s, u"%1%n"_s, u"https:a"_s, u" - ("_s,
+                                     u"\u202E"_s, u"\xD800"_s, u"\0"_s}) {
+            const qint64 usual = timeFor(u"lorem "_s);
+            const qint64 taken = timeFor(piece);
+            QVERIFY2(taken <= 20 * usual + 1000,
+                     qPrintable(u"%1 takes %2 ms, usual are %3 ms"_s.arg(piece).arg(taken).arg(usual)));
+        }
+    }
+
+    void pasting_data()
+    {
+        familyRows();
+    }
+
+    void pasting()
+    {
+        QFETCH(QString, family);
+        IBaseDialog* dialog = get(family, id);
+        showActive(dialog);
+        for (const QString& text : corpus) {
+            auto* content = new QMimeData;
+            content->setText(text);
+            content->setHtml(u"<html>%1<img src=\"file://BAIT\"></html>"_s.arg(text));
+            QGuiApplication::clipboard()->setMimeData(content);
+            press(dialog, Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
+            const QList<QWidget*> widgets = window(dialog).findChildren<QWidget*>();
+            for (QWidget* widget : widgets) {
+                if (!widget->inherits("QLineEdit") && !widget->inherits("QTextEdit"))
+                    continue;
+                QMetaObject::invokeMethod(widget, "paste");
+                QVERIFY2(!widget->property("html").toString().contains(u"<img"_s), qPrintable(text));
+            }
+            look(window(dialog));
+            QVERIFY2(!takeOpened(), qPrintable(text));
+        }
+        // Pasting is no answer; the prompt's countdown just ends.
+        QVERIFY(takeEvents().filter(QRegularExpression(u"^(?!evTimeout)"_s)).isEmpty());
+    }
+
+    void branding_data()
+    {
+        familyRows();
+    }
+
+    void branding()
+    {
+        QFETCH(QString, family);
+        IBaseDialog* dialog = get(family, id);
+        showActive(dialog);
+        look(window(dialog));
+        QVERIFY(!takeOpened());
+        // Wherever a piece of the name is read, the whole of it is.
+        int places = 0;
+        const QMap<QString, QString> texts = readings(dialogFamily(family), dialog);
+        for (const QString& text : texts) {
+            const bool mentionsIt = text.contains(u"&amp;a"_s);
+            QCOMPARE(text.contains(hostileName), mentionsIt);
+            places += mentionsIt ? 1 : 0;
+        }
+        QCOMPARE(places > 0, !family.contains(u"RemoteConnection"_s));
+    }
+
+    void noNetworkCode()
+    {
+        // Qt's text documents fetch nothing by themselves; the rest is in the list of libraries that the plugin needs.
+        QFile plugin(QStringLiteral(GUI_PLUGIN));
+        QVERIFY(plugin.open(QIODevice::ReadOnly));
+        const QByteArray code = plugin.readAll();
+        QVERIFY(code.contains("Qt5Widgets") && !code.contains("Qt5Network"));
+    }
+
+private:
+    /// Sets a text in a new dialog.
+    QMap<QString, QString> readingsWith(const QString& text)
+    {
+        QFETCH(QString, family);
+        QFETCH(QString, operation);
+        QFETCH(int, position);
+        IBaseDialog* dialog = get(family, id);
+        dialog->show();
+        if (auto* session = dynamic_cast<IRemoteConnectionDialog*>(dialog)) {
+            session->startRemoteToolsSession(id, 1, u"user"_s, 0, true);
+            click(dialog, "fileTransferInfoPanelCheckBox");
+        }
+        const auto set = [&](const QString& argument) {
+            const Operation& setter = dialogFamily(family).operation(operation);
+            setter.call(*dialog, argumentsWith(setter, position, argument));
+            settle();
+            look(window(dialog));
+        };
+        set(text);
+        // The one rich text: what the host does not escape opens nothing, what it escapes is shown as it is.
+        if (family == u"RebootDialog"_s)
+            set(u"<p style=\"white-space:pre-wrap\">%1</p>"_s.arg(text.toHtmlEscaped()));
+        const QMap<QString, QString> texts = readings(dialogFamily(family), dialog);
+        dialogFamily(family).remove(gui(), id);
         settle();
-        look(window(dialog));
-    };
-    set(text);
-    // The one rich text: what the host does not escape opens nothing, what it escapes is shown as it is.
-    if (family == u"RebootDialog"_s)
-        set(u"<p style=\"white-space:pre-wrap\">%1</p>"_s.arg(text.toHtmlEscaped()));
-    const QMap<QString, QString> texts = readings(dialogFamily(family), dialog);
-    dialogFamily(family).remove(gui(), id);
-    settle();
-    return texts;
-}
-
-void HostileTest::setters()
-{
-    QFETCH(QString, family);
-    const QMap<QString, QString> before = readingsWith(harmless);
-    const QStringList holders = before.keys(harmless).filter(u"()"_s);
-    QVERIFY2(holders.size() <= 1, qPrintable(holders.join(u' ')));
-    for (const QString& text : corpus) {
-        const QMap<QString, QString> after = readingsWith(text);
-        QVERIFY2(!takeOpened(), qPrintable(text));
-        QCOMPARE(after.keys(), before.keys());
-        for (const QString& place : before.keys()) {
-            const bool isRich = place == u"log"_s || family == u"RebootDialog"_s;
-            const bool isSafe = family.contains(u"RemoteConnection"_s) && !place.endsWith(u"()"_s);
-            const QStringList forms = isSafe ? deceptions.value(text, {text}) : QStringList{text, text.trimmed()};
-            const bool matches = std::any_of(forms.cbegin(), forms.cend(), [&](const QString& form) {
-                const QString expected = QString(before[place]).replace(harmless, form);
-                // Blanks collapse in rich text. What is shortened can be read in full as a tool tip.
-                return isWhole(after[place], expected)
-                    || (isRich && isWhole(after[place].simplified(), expected.simplified()))
-                    || (place.endsWith(u" tip"_s) && after[place] == form);
-            });
-            QVERIFY2(matches, qPrintable(u"%1 at %2: %3"_s.arg(text, place, after[place])));
-        }
+        return texts;
     }
-}
-
-void HostileTest::longTexts_data()
-{
-    setters_data();
-}
-
-void HostileTest::longTexts()
-{
-    QFETCH(QString, family);
-    QFETCH(QString, operation);
-    QFETCH(int, position);
-    const Operation& setter = dialogFamily(family).operation(operation);
-    IBaseDialog* dialog = get(family, id);
-    const auto timeFor = [&](const QString& piece) {
-        constexpr int length = hasSanitizer ? 1 << 17 : 1 << 20;
-        const QJsonArray arguments =
-            argumentsWith(setter, position, piece.repeated(length / piece.size() + 1).left(length));
-        // The processor's time, which other programs do not lengthen.
-        const std::clock_t start = std::clock();
-        setter.call(*dialog, arguments);
-        return qint64(std::clock() - start) * 1000 / CLOCKS_PER_SEC;
-    };
-    for (const QString& piece : {u"<b><i>"_s, u"<"_s, u"&"_s, u"&lt;"_s, u"%1%n"_s, u"https:a"_s, u" - ("_s,
-                                 u"\u202E"_s, u"\xD800"_s, u"\0"_s}) {
-        const qint64 usual = timeFor(u"lorem "_s);
-        const qint64 taken = timeFor(piece);
-        QVERIFY2(taken <= 20 * usual + 1000,
-                 qPrintable(u"%1 takes %2 ms, usual are %3 ms"_s.arg(piece).arg(taken).arg(usual)));
-    }
-}
-
-void HostileTest::pasting_data()
-{
-    familyRows();
-}
-
-void HostileTest::pasting()
-{
-    QFETCH(QString, family);
-    IBaseDialog* dialog = get(family, id);
-    showActive(dialog);
-    for (const QString& text : corpus) {
-        auto* content = new QMimeData;
-        content->setText(text);
-        content->setHtml(u"<html>%1<img src=\"file://BAIT\"></html>"_s.arg(text));
-        QGuiApplication::clipboard()->setMimeData(content);
-        press(dialog, Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
-        const QList<QWidget*> widgets = window(dialog).findChildren<QWidget*>();
-        for (QWidget* widget : widgets) {
-            if (!widget->inherits("QLineEdit") && !widget->inherits("QTextEdit"))
-                continue;
-            QMetaObject::invokeMethod(widget, "paste");
-            QVERIFY2(!widget->property("html").toString().contains(u"<img"_s), qPrintable(text));
-        }
-        look(window(dialog));
-        QVERIFY2(!takeOpened(), qPrintable(text));
-    }
-    // Pasting is no answer; the prompt's countdown just ends.
-    QVERIFY(takeEvents().filter(QRegularExpression(u"^(?!evTimeout)"_s)).isEmpty());
-}
-
-void HostileTest::branding_data()
-{
-    familyRows();
-}
-
-void HostileTest::branding()
-{
-    QFETCH(QString, family);
-    IBaseDialog* dialog = get(family, id);
-    showActive(dialog);
-    look(window(dialog));
-    QVERIFY(!takeOpened());
-    // Wherever a piece of the name is read, the whole of it is.
-    int places = 0;
-    const QMap<QString, QString> texts = readings(dialogFamily(family), dialog);
-    for (const QString& text : texts) {
-        const bool mentionsIt = text.contains(u"&amp;a"_s);
-        QCOMPARE(text.contains(hostileName), mentionsIt);
-        places += mentionsIt ? 1 : 0;
-    }
-    QCOMPARE(places > 0, !family.contains(u"RemoteConnection"_s));
-}
-
-void HostileTest::noNetworkCode()
-{
-    // Qt's text documents fetch nothing by themselves; the rest is in the list of libraries that the plugin needs.
-    QFile plugin(QStringLiteral(GUI_PLUGIN));
-    QVERIFY(plugin.open(QIODevice::ReadOnly));
-    const QByteArray code = plugin.readAll();
-    QVERIFY(code.contains("Qt5Widgets") && !code.contains("Qt5Network"));
-}
+};
 
 GUI_TEST_MAIN(HostileTest)
 #include "tst_hostile.moc"

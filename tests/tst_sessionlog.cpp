@@ -26,283 +26,267 @@ class SessionLogTest : public GuiTest {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void actions();
-    void rolesAndColors();
-    void badInput_data();
-    void badInput();
-    void drawing();
-    void longPathsKeepTheirEnd();
-    void copies();
-    void keys();
-    void readersStayWhereTheyAre();
-    void screenReaders();
-    void closedWithTheToolsArea();
+    void init()
+    {
+        GuiTest::init();
+        // Rows show the time of the person's zone, here one hour ahead.
+        qputenv("TZ", "CET-1");
+        session = get<Session>();
+        session->startRemoteToolsSession(QStringLiteral("t"), 1, QStringLiteral("Jane"), 0, true);
+        child<QCheckBox>(session, "fileTransferInfoPanelCheckBox").setChecked(true);
+        settle();
+        view = &child<QListView>(session, "logsListView");
+        view->setFocus();
+    }
+
+    void actions()
+    {
+        const char* const rows[][3] = {
+            {"file-upload", "reply", "File uploaded"},      {"file-download", "abort", "Download aborted"},
+            {"dir-upload", "cancel", "Upload cancelled"},   {"dir-download", "error", ""},
+            {"file-erase", "reply", "File deleted"},        {"dir-rename", "abort", ""},
+            {"proc-kill", "reply", "Process ended"},        {"serv-pause", "reply", "Service paused"},
+            {"session-resume", "reply", "Session resumed"}, {"file-upload", "Reply", "file-upload"},
+            {"File-Upload", "reply", "File-Upload"},        {"file-copy", "reply", "file-copy"}};
+        for (const auto& row : rows) {
+            session->addLogEvent(noon, QString(), QLatin1String(row[0]), QStringLiteral("x"), QLatin1String(row[1]));
+            QCOMPARE(text(0), QString(noonText + QLatin1String(row[2]) + QStringLiteral(" x")));
+        }
+    }
+
+    void rolesAndColors()
+    {
+        const QString html =
+            QStringLiteral("<p><span style=\" font-size:14px; color:#a9adb3;\">%1</span><span style=\" "
+                           "font-size:14px; color:%2;\">%3 </span><span style=\" font-size:14px; "
+                           "color:#f3f4f4;\">%3</span></p>");
+        const char* const colors[][2] = {{"file", "#89C1FE"},
+                                         {"process", "#BCBCFA"},
+                                         {"service", "#C1C36D"},
+                                         {"event", "#6BC39A"},
+                                         {"Process", "#89C1FE"}};
+        for (const auto& row : colors) {
+            const QString object = QLatin1String(row[0]);
+            session->addLogEvent(noon, object, object, object, QString());
+            QCOMPARE(text(0, Qt::DisplayRole), html.arg(noonText, QLatin1String(row[1]), object));
+        }
+        session->addEmptyLogRow();
+        QCOMPARE(text(0, Qt::DisplayRole), html.arg(QStringLiteral(" "), QStringLiteral("#89C1FE"), QString()));
+        QCOMPARE(view->model()->rowCount(), 6);
+    }
+
+    void badInput_data()
+    {
+        QTest::addColumn<QString>("value");
+        QTest::newRow("markup") << QStringLiteral("<h1>&amp;%1\r\n\u202E</h1>");
+        QTest::newRow("a megabyte") << QString(1024 * 1024, QLatin1Char('w'));
+        QTest::newRow("East Asian") << QString(40, QChar(0x30C6));
+    }
+
+    void badInput()
+    {
+        using Limits = std::numeric_limits<qint64>;
+        QFETCH(QString, value);
+        add(QStringLiteral("x"));
+        const int height = rowRect(0).height();
+        for (qint64 time : {Limits::min(), noon}) {
+            // The processor's time, which other programs do not lengthen.
+            const std::clock_t start = std::clock();
+            session->addLogEvent(time, value, value, value, value);
+            window(session).grab();
+            QVERIFY(std::clock() - start < CLOCKS_PER_SEC);
+            QVERIFY(text(0).endsWith(QString(QLatin1Char(' ') + value + QLatin1Char(' ') + value)));
+            QCOMPARE(text(0, Qt::DisplayRole).count(QLatin1Char('<')), 8);
+            QVERIFY(!text(0, Qt::DisplayRole).contains(QRegularExpression(QStringLiteral("[\\r\\n\u202E]"))));
+        }
+        // An unknown action leaves room for the end of the path.
+        const QFontMetrics metrics(view->font());
+        const QString shown = QTextDocumentFragment::fromHtml(text(0, Qt::DisplayRole)).toPlainText();
+        QVERIFY(metrics.horizontalAdvance(shown) < view->viewport()->width());
+        const QRect row = rowRect(0);
+        QCOMPARE(row.height(), height);
+        QHelpEvent help(QEvent::ToolTip, row.center(), view->viewport()->mapToGlobal(row.center()));
+        QCoreApplication::sendEvent(view->viewport(), &help);
+        const QString toolTip = QToolTip::text();
+        QVERIFY(toolTip.size() < 4500 && !toolTip.contains(QLatin1String("<h1>")) && !toolTip.contains(QChar(0x202E)));
+        QCOMPARE(toolTip.startsWith(QChar(0x2026)), value.size() > 4096);
+        const QStringList lines = toolTip.split(QLatin1Char('\n'));
+        for (const QString& line : lines)
+            QVERIFY(QFontMetrics(QToolTip::font()).horizontalAdvance(line)
+                    < QGuiApplication::primaryScreen()->size().width());
+        QToolTip::hideText();
+    }
+
+    void drawing()
+    {
+        // Each text is drawn as the one beside it, but for its colour: blanks stay, first letters turn no row around,
+        // and East Asian characters move nothing.
+        const auto ink = [this](const QString& object, const QRect& part) {
+            add(object);
+            settle();
+            return view->viewport()->grab(part.translated(rowRect(0).topLeft())).toImage();
+        };
+        const QRect start(0, 0, 150, rowRect(0).height());
+        const QImage plain = ink(QStringLiteral("x"), start);
+        QCOMPARE(ink(QString(QChar(0x30C6)), start), plain);
+        session->addLogEvent(noon, QString(), QString(QChar(0x05D0)), QString(QChar(0x05D0)), QString());
+        settle();
+        QCOMPARE(view->viewport()->grab(start.translated(rowRect(0).topLeft())).toImage(), plain);
+        const QRect whole(0, 0, view->viewport()->width(), rowRect(0).height());
+        QVERIFY(ink(QStringLiteral("a b"), whole) != ink(QStringLiteral("a  b"), whole));
+        session->setRatio(2);
+        settle();
+        QVERIFY2(qAbs(rowRect(0).height() - 2 * whole.height()) <= 2, qPrintable(QString::number(rowRect(0).height())));
+    }
+
+    void longPathsKeepTheirEnd()
+    {
+        add(path);
+        const QString end = QFontMetrics(view->font()).elidedText(path, Qt::ElideLeft, qMax(570 / 3, 178));
+        QVERIFY(end.startsWith(QChar(0x2026)) && path.endsWith(end.mid(1)));
+        QVERIFY2(text(0, Qt::DisplayRole).contains(QLatin1Char('>') + end + QLatin1Char('<')), qPrintable(end));
+        QCOMPARE(text(0, Qt::ToolTipRole), path);
+    }
+
+    void copies()
+    {
+        addMany(5);
+        const auto copied = [this] {
+            QTest::keySequence(view, QKeySequence::Copy);
+            return QApplication::clipboard()->text();
+        };
+        QApplication::clipboard()->setText(path);
+        QCOMPARE(copied(), path);
+        for (int row : {3, 0, 1})
+            view->selectionModel()->select(view->model()->index(row, 0), QItemSelectionModel::Select);
+        QCOMPARE(copied(), (QStringList{text(0), text(1), text(3)}.join(QLatin1Char('\n'))));
+        QTest::keySequence(view, QKeySequence::SelectAll);
+        QCOMPARE(copied().count(QLatin1Char('\n')), 4);
+    }
+
+    void keys()
+    {
+        addMany(1000);
+        QVERIFY(view->uniformItemSizes());
+        view->setCurrentIndex(view->model()->index(0, 0));
+        const int page = view->viewport()->height() / rowRect(0).height();
+        QVERIFY(page >= 5 && page <= 12);
+        // Typing searches for nothing, not even for what every row starts with: that would render a million rows.
+        const QPair<Qt::Key, int> steps[] = {{Qt::Key_Down, 1},       {Qt::Key_Up, 0},     {Qt::Key_Up, 0},
+                                             {Qt::Key_End, 999},      {Qt::Key_Down, 999}, {Qt::Key_PageUp, 999 - page},
+                                             {Qt::Key_PageDown, 999}, {Qt::Key_Home, 0},   {Qt::Key_Less, 0}};
+        for (const auto& step : steps) {
+            QTest::keyClick(view, step.first);
+            QCOMPARE(view->currentIndex().row(), step.second);
+            QVERIFY(view->viewport()->rect().contains(rowRect(step.second).center()));
+        }
+        const auto selected = [this] { return view->selectionModel()->selectedIndexes().size(); };
+        const QPair<Qt::Key, int> selections[] = {{Qt::Key_Down, 2}, {Qt::Key_Down, 3}, {Qt::Key_Up, 2}};
+        for (const auto& step : selections) {
+            QTest::keyClick(view, step.first, Qt::ShiftModifier);
+            QCOMPARE(selected(), step.second);
+        }
+        QTest::keyClick(view, Qt::Key_End);
+        QTest::keyClick(view, Qt::Key_Home, Qt::ShiftModifier);
+        QCOMPARE(selected(), 1000);
+        QTest::keyClick(view, Qt::Key_Home);
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, rowRect(3).center());
+        QCOMPARE(view->currentIndex().row(), 3);
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::ShiftModifier, rowRect(1).center());
+        QCOMPARE(selected(), 3);
+    }
+
+    void readersStayWhereTheyAre()
+    {
+        addMany(200);
+        const auto topPath = [this] { return view->indexAt(QPoint(5, 5)).data(Qt::ToolTipRole).toString(); };
+        QCOMPARE(topPath(), QStringLiteral("199"));
+        view->verticalScrollBar()->setValue(view->verticalScrollBar()->maximum() / 2);
+        settle();
+        const QString read = topPath();
+        const QImage before = view->viewport()->grab().toImage();
+        addMany(100);
+        QCOMPARE(topPath(), read);
+        QVERIFY(view->viewport()->grab().toImage() == before);
+
+        view->scrollToTop();
+        addMany(1);
+        QCOMPARE(topPath(), QStringLiteral("0"));
+        view->scrollTo(view->model()->index(150, 0), QAbstractItemView::PositionAtCenter);
+        QCOMPARE(view->indexAt(view->viewport()->rect().center()).row(), 150);
+        session->clearLog();
+        settle();
+        QVERIFY(!view->indexAt(QPoint(5, 5)).isValid());
+    }
+
+    void screenReaders()
+    {
+        addMany(2);
+        QAccessibleInterface* log = QAccessible::queryAccessibleInterface(view);
+        QCOMPARE(log->role(), QAccessible::List);
+        QCOMPARE(log->childCount(), 2);
+        QVERIFY(!log->child(2));
+        QAccessibleInterface* row = log->child(1);
+        QCOMPARE(row->text(QAccessible::Name), text(1));
+        QCOMPARE(row->role(), QAccessible::ListItem);
+        QCOMPARE(row->parent(), log);
+        QCOMPARE(log->childAt(row->rect().center().x(), row->rect().center().y()), row);
+        // A row keeps its identity when others come.
+        addMany(1);
+        QCOMPARE(log->indexOfChild(row), 2);
+        QCOMPARE(log->child(2), row);
+        view->setCurrentIndex(view->model()->index(2, 0));
+        QVERIFY(row->state().selected && !row->state().offscreen);
+        session->clearLog();
+        QCOMPARE(log->childCount(), 0);
+        // What is read is what is seen, without the blanks of missing parts.
+        session->addLogEvent(noon, QString(), QString(), QStringLiteral("a  b\u202E"), QString());
+        QCOMPARE(log->child(0)->text(QAccessible::Name), QString(noonText + QStringLiteral("a  b\uFFFD")));
+        session->addLogEvent(noon, QString(), QStringLiteral("act"), QString(), QString());
+        QCOMPARE(log->child(0)->text(QAccessible::Name), QString(noonText + QStringLiteral("act")));
+    }
+
+    void closedWithTheToolsArea()
+    {
+        session->setLogExpanderEnabled(false);
+        QVERIFY(!child(session, "fileTransferInfoPanelCheckBox").isEnabled());
+        for (bool keep : {true, false}) {
+            add(path);
+            session->setKeepRemoteToolsPopup(keep);
+            session->endRemoteToolsSession(QStringLiteral("t"));
+            settle();
+            QCOMPARE(view->model()->rowCount(), keep ? 1 : 0);
+            QCOMPARE(view->isVisible(), keep);
+        }
+    }
 
 private:
-    void add(const QString& object);
-    void addMany(int count);
-    QString text(int row, int role = plainTextRole) const;
-    QRect rowRect(int row) const;
+    void add(const QString& object)
+    {
+        session->addLogEvent(noon, QStringLiteral("file"), QStringLiteral("file-upload"), object,
+                             QStringLiteral("reply"));
+    }
+
+    void addMany(int count)
+    {
+        for (int i = 0; i < count; ++i)
+            add(QString::number(i));
+        settle();
+    }
+
+    QString text(int row, int role) const
+    {
+        return view->model()->index(row, 0).data(role).toString();
+    }
+
+    QRect rowRect(int row) const
+    {
+        return view->visualRect(view->model()->index(row, 0));
+    }
 
     Session* session = nullptr;
     QListView* view = nullptr;
 };
-
-void SessionLogTest::init()
-{
-    GuiTest::init();
-    // Rows show the time of the person's zone, here one hour ahead.
-    qputenv("TZ", "CET-1");
-    session = get<Session>();
-    session->startRemoteToolsSession(QStringLiteral("t"), 1, QStringLiteral("Jane"), 0, true);
-    child<QCheckBox>(session, "fileTransferInfoPanelCheckBox").setChecked(true);
-    settle();
-    view = &child<QListView>(session, "logsListView");
-    view->setFocus();
-}
-
-void SessionLogTest::add(const QString& object)
-{
-    session->addLogEvent(noon, QStringLiteral("file"), QStringLiteral("file-upload"), object, QStringLiteral("reply"));
-}
-
-void SessionLogTest::addMany(int count)
-{
-    for (int i = 0; i < count; ++i)
-        add(QString::number(i));
-    settle();
-}
-
-QString SessionLogTest::text(int row, int role) const
-{
-    return view->model()->index(row, 0).data(role).toString();
-}
-
-QRect SessionLogTest::rowRect(int row) const
-{
-    return view->visualRect(view->model()->index(row, 0));
-}
-
-void SessionLogTest::actions()
-{
-    const char* const rows[][3] = {
-        {"file-upload", "reply", "File uploaded"},      {"file-download", "abort", "Download aborted"},
-        {"dir-upload", "cancel", "Upload cancelled"},   {"dir-download", "error", ""},
-        {"file-erase", "reply", "File deleted"},        {"dir-rename", "abort", ""},
-        {"proc-kill", "reply", "Process ended"},        {"serv-pause", "reply", "Service paused"},
-        {"session-resume", "reply", "Session resumed"}, {"file-upload", "Reply", "file-upload"},
-        {"File-Upload", "reply", "File-Upload"},        {"file-copy", "reply", "file-copy"}};
-    for (const auto& row : rows) {
-        session->addLogEvent(noon, QString(), QLatin1String(row[0]), QStringLiteral("x"), QLatin1String(row[1]));
-        QCOMPARE(text(0), QString(noonText + QLatin1String(row[2]) + QStringLiteral(" x")));
-    }
-}
-
-void SessionLogTest::rolesAndColors()
-{
-    const QString html = QStringLiteral("<p><span style=\" font-size:14px; color:#a9adb3;\">%1</span><span style=\" "
-                                        "font-size:14px; color:%2;\">%3 </span><span style=\" font-size:14px; "
-                                        "color:#f3f4f4;\">%3</span></p>");
-    const char* const colors[][2] = {{"file", "#89C1FE"},
-                                     {"process", "#BCBCFA"},
-                                     {"service", "#C1C36D"},
-                                     {"event", "#6BC39A"},
-                                     {"Process", "#89C1FE"}};
-    for (const auto& row : colors) {
-        const QString object = QLatin1String(row[0]);
-        session->addLogEvent(noon, object, object, object, QString());
-        QCOMPARE(text(0, Qt::DisplayRole), html.arg(noonText, QLatin1String(row[1]), object));
-    }
-    session->addEmptyLogRow();
-    QCOMPARE(text(0, Qt::DisplayRole), html.arg(QStringLiteral(" "), QStringLiteral("#89C1FE"), QString()));
-    QCOMPARE(view->model()->rowCount(), 6);
-}
-
-void SessionLogTest::badInput_data()
-{
-    QTest::addColumn<QString>("value");
-    QTest::newRow("markup") << QStringLiteral("<h1>&amp;%1\r\n\u202E</h1>");
-    QTest::newRow("a megabyte") << QString(1024 * 1024, QLatin1Char('w'));
-    QTest::newRow("East Asian") << QString(40, QChar(0x30C6));
-}
-
-void SessionLogTest::badInput()
-{
-    using Limits = std::numeric_limits<qint64>;
-    QFETCH(QString, value);
-    add(QStringLiteral("x"));
-    const int height = rowRect(0).height();
-    for (qint64 time : {Limits::min(), noon}) {
-        // The processor's time, which other programs do not lengthen.
-        const std::clock_t start = std::clock();
-        session->addLogEvent(time, value, value, value, value);
-        window(session).grab();
-        QVERIFY(std::clock() - start < CLOCKS_PER_SEC);
-        QVERIFY(text(0).endsWith(QString(QLatin1Char(' ') + value + QLatin1Char(' ') + value)));
-        QCOMPARE(text(0, Qt::DisplayRole).count(QLatin1Char('<')), 8);
-        QVERIFY(!text(0, Qt::DisplayRole).contains(QRegularExpression(QStringLiteral("[\\r\\n\u202E]"))));
-    }
-    // An unknown action leaves room for the end of the path.
-    const QFontMetrics metrics(view->font());
-    const QString shown = QTextDocumentFragment::fromHtml(text(0, Qt::DisplayRole)).toPlainText();
-    QVERIFY(metrics.horizontalAdvance(shown) < view->viewport()->width());
-    const QRect row = rowRect(0);
-    QCOMPARE(row.height(), height);
-    QHelpEvent help(QEvent::ToolTip, row.center(), view->viewport()->mapToGlobal(row.center()));
-    QCoreApplication::sendEvent(view->viewport(), &help);
-    const QString toolTip = QToolTip::text();
-    QVERIFY(toolTip.size() < 4500 && !toolTip.contains(QLatin1String("<h1>")) && !toolTip.contains(QChar(0x202E)));
-    QCOMPARE(toolTip.startsWith(QChar(0x2026)), value.size() > 4096);
-    const QStringList lines = toolTip.split(QLatin1Char('\n'));
-    for (const QString& line : lines)
-        QVERIFY(QFontMetrics(QToolTip::font()).horizontalAdvance(line)
-                < QGuiApplication::primaryScreen()->size().width());
-    QToolTip::hideText();
-}
-
-void SessionLogTest::drawing()
-{
-    // Each text is drawn as the one beside it, but for its colour: blanks stay, first letters turn no row around, and
-    // East Asian characters move nothing.
-    const auto ink = [this](const QString& object, const QRect& part) {
-        add(object);
-        settle();
-        return view->viewport()->grab(part.translated(rowRect(0).topLeft())).toImage();
-    };
-    const QRect start(0, 0, 150, rowRect(0).height());
-    const QImage plain = ink(QStringLiteral("x"), start);
-    QCOMPARE(ink(QString(QChar(0x30C6)), start), plain);
-    session->addLogEvent(noon, QString(), QString(QChar(0x05D0)), QString(QChar(0x05D0)), QString());
-    settle();
-    QCOMPARE(view->viewport()->grab(start.translated(rowRect(0).topLeft())).toImage(), plain);
-    const QRect whole(0, 0, view->viewport()->width(), rowRect(0).height());
-    QVERIFY(ink(QStringLiteral("a b"), whole) != ink(QStringLiteral("a  b"), whole));
-    session->setRatio(2);
-    settle();
-    QVERIFY2(qAbs(rowRect(0).height() - 2 * whole.height()) <= 2, qPrintable(QString::number(rowRect(0).height())));
-}
-
-void SessionLogTest::longPathsKeepTheirEnd()
-{
-    add(path);
-    const QString end = QFontMetrics(view->font()).elidedText(path, Qt::ElideLeft, qMax(570 / 3, 178));
-    QVERIFY(end.startsWith(QChar(0x2026)) && path.endsWith(end.mid(1)));
-    QVERIFY2(text(0, Qt::DisplayRole).contains(QLatin1Char('>') + end + QLatin1Char('<')), qPrintable(end));
-    QCOMPARE(text(0, Qt::ToolTipRole), path);
-}
-
-void SessionLogTest::copies()
-{
-    addMany(5);
-    const auto copied = [this] {
-        QTest::keySequence(view, QKeySequence::Copy);
-        return QApplication::clipboard()->text();
-    };
-    QApplication::clipboard()->setText(path);
-    QCOMPARE(copied(), path);
-    for (int row : {3, 0, 1})
-        view->selectionModel()->select(view->model()->index(row, 0), QItemSelectionModel::Select);
-    QCOMPARE(copied(), (QStringList{text(0), text(1), text(3)}.join(QLatin1Char('\n'))));
-    QTest::keySequence(view, QKeySequence::SelectAll);
-    QCOMPARE(copied().count(QLatin1Char('\n')), 4);
-}
-
-void SessionLogTest::keys()
-{
-    addMany(1000);
-    QVERIFY(view->uniformItemSizes());
-    view->setCurrentIndex(view->model()->index(0, 0));
-    const int page = view->viewport()->height() / rowRect(0).height();
-    QVERIFY(page >= 5 && page <= 12);
-    // Typing searches for nothing, not even for what every row starts with: that would render a million rows.
-    const QPair<Qt::Key, int> steps[] = {{Qt::Key_Down, 1},       {Qt::Key_Up, 0},     {Qt::Key_Up, 0},
-                                         {Qt::Key_End, 999},      {Qt::Key_Down, 999}, {Qt::Key_PageUp, 999 - page},
-                                         {Qt::Key_PageDown, 999}, {Qt::Key_Home, 0},   {Qt::Key_Less, 0}};
-    for (const auto& step : steps) {
-        QTest::keyClick(view, step.first);
-        QCOMPARE(view->currentIndex().row(), step.second);
-        QVERIFY(view->viewport()->rect().contains(rowRect(step.second).center()));
-    }
-    const auto selected = [this] { return view->selectionModel()->selectedIndexes().size(); };
-    const QPair<Qt::Key, int> selections[] = {{Qt::Key_Down, 2}, {Qt::Key_Down, 3}, {Qt::Key_Up, 2}};
-    for (const auto& step : selections) {
-        QTest::keyClick(view, step.first, Qt::ShiftModifier);
-        QCOMPARE(selected(), step.second);
-    }
-    QTest::keyClick(view, Qt::Key_End);
-    QTest::keyClick(view, Qt::Key_Home, Qt::ShiftModifier);
-    QCOMPARE(selected(), 1000);
-    QTest::keyClick(view, Qt::Key_Home);
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, rowRect(3).center());
-    QCOMPARE(view->currentIndex().row(), 3);
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::ShiftModifier, rowRect(1).center());
-    QCOMPARE(selected(), 3);
-}
-
-void SessionLogTest::readersStayWhereTheyAre()
-{
-    addMany(200);
-    const auto topPath = [this] { return view->indexAt(QPoint(5, 5)).data(Qt::ToolTipRole).toString(); };
-    QCOMPARE(topPath(), QStringLiteral("199"));
-    view->verticalScrollBar()->setValue(view->verticalScrollBar()->maximum() / 2);
-    settle();
-    const QString read = topPath();
-    const QImage before = view->viewport()->grab().toImage();
-    addMany(100);
-    QCOMPARE(topPath(), read);
-    QVERIFY(view->viewport()->grab().toImage() == before);
-
-    view->scrollToTop();
-    addMany(1);
-    QCOMPARE(topPath(), QStringLiteral("0"));
-    view->scrollTo(view->model()->index(150, 0), QAbstractItemView::PositionAtCenter);
-    QCOMPARE(view->indexAt(view->viewport()->rect().center()).row(), 150);
-    session->clearLog();
-    settle();
-    QVERIFY(!view->indexAt(QPoint(5, 5)).isValid());
-}
-
-void SessionLogTest::screenReaders()
-{
-    addMany(2);
-    QAccessibleInterface* log = QAccessible::queryAccessibleInterface(view);
-    QCOMPARE(log->role(), QAccessible::List);
-    QCOMPARE(log->childCount(), 2);
-    QVERIFY(!log->child(2));
-    QAccessibleInterface* row = log->child(1);
-    QCOMPARE(row->text(QAccessible::Name), text(1));
-    QCOMPARE(row->role(), QAccessible::ListItem);
-    QCOMPARE(row->parent(), log);
-    QCOMPARE(log->childAt(row->rect().center().x(), row->rect().center().y()), row);
-    // A row keeps its identity when others come.
-    addMany(1);
-    QCOMPARE(log->indexOfChild(row), 2);
-    QCOMPARE(log->child(2), row);
-    view->setCurrentIndex(view->model()->index(2, 0));
-    QVERIFY(row->state().selected && !row->state().offscreen);
-    session->clearLog();
-    QCOMPARE(log->childCount(), 0);
-    // What is read is what is seen, without the blanks of missing parts.
-    session->addLogEvent(noon, QString(), QString(), QStringLiteral("a  b\u202E"), QString());
-    QCOMPARE(log->child(0)->text(QAccessible::Name), QString(noonText + QStringLiteral("a  b\uFFFD")));
-    session->addLogEvent(noon, QString(), QStringLiteral("act"), QString(), QString());
-    QCOMPARE(log->child(0)->text(QAccessible::Name), QString(noonText + QStringLiteral("act")));
-}
-
-void SessionLogTest::closedWithTheToolsArea()
-{
-    session->setLogExpanderEnabled(false);
-    QVERIFY(!child(session, "fileTransferInfoPanelCheckBox").isEnabled());
-    for (bool keep : {true, false}) {
-        add(path);
-        session->setKeepRemoteToolsPopup(keep);
-        session->endRemoteToolsSession(QStringLiteral("t"));
-        settle();
-        QCOMPARE(view->model()->rowCount(), keep ? 1 : 0);
-        QCOMPARE(view->isVisible(), keep);
-    }
-}
 
 GUI_TEST_MAIN(SessionLogTest)
 #include "tst_sessionlog.moc"
