@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QImage>
+#include <QJsonDocument>
 #include <QPluginLoader>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -30,6 +31,18 @@ Run play(QByteArray script, const char* dialog, const QStringList& options = {})
     script.replace('$', QByteArray("\"dialog\": \"") + dialog + '"');
     return run(QStringList{QStringLiteral("run"), QStringLiteral("-")} + options, script);
 }
+
+/// The events that a script waits for or that an output tells, with their dialogs.
+QStringList eventsIn(const QByteArray& lines)
+{
+    QStringList events;
+    for (const QByteArray& line : lines.split('\n')) {
+        const QJsonObject object = QJsonDocument::fromJson(line).object();
+        if (object.contains(QLatin1String("event")))
+            events << object[QLatin1String("dialog")].toString() + object[QLatin1String("event")].toString();
+    }
+    return events;
+}
 } // namespace
 
 /// The reference host as an administrator runs it: a program, its script, its output and its exit status.
@@ -56,35 +69,36 @@ private Q_SLOTS:
         QFETCH(QString, path);
         const Run result = run({QStringLiteral("run"), path, QStringLiteral("--pictures"), pictures.path()});
         QVERIFY2(result.exitCode == 0, result.errors.constData());
-        for (const char* printed : {"\"event\":\"ev", "\"picture\":"})
-            QVERIFY2(result.output.contains(printed), printed);
+        QVERIFY(result.output.contains("\"picture\":"));
+        // The story names all that the dialogs report, in this order.
+        QFile story(path);
+        QVERIFY(story.open(QIODevice::ReadOnly));
+        const QStringList named = eventsIn(story.readAll());
+        QVERIFY(!named.isEmpty());
+        QCOMPARE(eventsIn(result.output), named);
     }
 
     void wrongLines()
     {
-        const QVector<QPair<QByteArray, QLatin1String>> lines{
-            {R"({"do": "get", "dialog": "Err)", QLatin1String("not a JSON object")},
-            {R"({"do": "get", $, "colour": "red"})", QLatin1String(R"(takes no "colour")")},
-            {R"({"do": "set", $, "properties": {"message": 7}})", QLatin1String("message: expected a string")},
-            {R"({"do": "picture", $, "file": "../picture"})", QLatin1String("a name without a directory")},
-            {R"({"do": "wait", $, "event": "evClose", "within": "500"})",
-             QLatin1String(R"("within" must be a number)")},
-            {R"({"do": "wait", "dialog": "AboutDialog", "event": "evClose"})", QLatin1String("was not got")},
-            {R"({"do": "wait", $, "event": "evClose", "within": 20})", QLatin1String("did not come in time")},
-            {R"({"do": "expect", $, "properties": {"message": "x"}})", QLatin1String("expected {")},
+        const QPair<const char*, const char*> lines[] = {
+            {R"({"do": "get", )", "not a JSON object"},
+            {R"({"do": "get", $, "colour": "red"})", R"(takes no "colour")"},
+            {R"({"do": "set", $, "properties": {"message": 7}})", "message: expected a string"},
+            {R"({"do": "picture", $, "file": "../picture"})", "a name without a directory"},
+            {R"({"do": "wait", $, "event": "evClose", "within": 20})", "did not come in time"},
+            {R"({"do": "expect", $, "properties": {"message": "x"}})", "expected {"},
         };
         QByteArray script = "{\"do\": \"get\", $}\n\n";
         for (const auto& line : lines)
-            script += line.first + '\n';
+            script += line.first + QByteArray("\n");
         const Run result = play(script, "ErrorMessageDialog");
         QCOMPARE(result.exitCode, 1);
-        const QStringList errors =
-            QString::fromUtf8(result.errors).split(QLatin1Char('\n')).filter(QLatin1String("line "));
-        QCOMPARE(errors.size(), lines.size());
-        for (int i = 0; i < lines.size(); ++i)
-            QVERIFY2(errors[i].startsWith(QStringLiteral("line %1: ").arg(i + 3))
-                         && errors[i].contains(lines[i].second),
-                     qPrintable(errors[i]));
+        int number = 2;
+        for (const auto& line : lines) {
+            const QString error = QStringLiteral("line %1: [^\n]*").arg(++number)
+                + QRegularExpression::escape(QLatin1String(line.second));
+            QVERIFY2(QRegularExpression(error).match(QString::fromUtf8(result.errors)).hasMatch(), qPrintable(error));
+        }
     }
 
     void goodLinesAfterAWrongOne()
@@ -121,37 +135,21 @@ private Q_SLOTS:
         QVERIFY2(result.exitCode == 0, result.errors.constData());
     }
 
-    void wrongArguments()
-    {
-        const QVector<QPair<const char*, const char*>> lines{
-            {"run x --language xx",
-             "unknown language \"xx\"; there are: da de en es fr it ja ko nl pt ru tr zh pseudo"},
-            {"run x --ratio -1", "the ratio \"-1\" is not a positive number"},
-            {"gallery x --dialog None", "unknown dialog \"None\"; there are: AboutDialog "},
-        };
-        for (const auto& line : lines) {
-            const Run result = run(QString::fromLatin1(line.first).split(QLatin1Char(' ')));
-            QVERIFY2(result.exitCode == 2 && result.errors.contains(line.second), result.errors.constData());
-        }
-        QCOMPARE(run({QStringLiteral("run"), QStringLiteral("/nonexistent.jsonl")}).exitCode, 1);
-    }
-
     void picturesAreTheSameEverywhere()
     {
-        const QDir usual(pictures.filePath(QStringLiteral("usual")));
-        const QDir other(pictures.filePath(QStringLiteral("other")));
-        for (const QDir& directory : {usual, other}) {
-            const Run result = run({QStringLiteral("gallery"), directory.path(), QStringLiteral("--dialog"),
+        QVector<QImage> first;
+        while (first.size() < 2) {
+            const Run result = run({QStringLiteral("gallery"), pictures.path(), QStringLiteral("--dialog"),
                                     QStringLiteral("ErrorMessageDialog")});
             QVERIFY2(result.exitCode == 0, result.errors.constData());
+            const QImage picture(pictures.filePath(QStringLiteral("ErrorMessageDialog-message.png")));
+            QVERIFY(!picture.isNull() && QFile::exists(pictures.filePath(QStringLiteral("index.html"))));
+            QCOMPARE(picture, first.value(0, picture));
+            first << picture;
             // Whoever names the platform, and whichever fonts the machine has.
             qputenv("QT_QPA_PLATFORM", "offscreen");
             qputenv("FONTCONFIG_FILE", "/nonexistent");
         }
-        const QStringList files = usual.entryList({QStringLiteral("*.png")});
-        QVERIFY(files.size() >= 3 && QFile::exists(usual.filePath(QStringLiteral("index.html"))));
-        for (const QString& file : files)
-            QCOMPARE(QImage(other.filePath(file)), QImage(usual.filePath(file)));
     }
 
     void noDialogWithoutApplication()
