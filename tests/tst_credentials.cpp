@@ -40,7 +40,10 @@ private Q_SLOTS:
         IBaseDialog* dialog = get(name);
         showActive(dialog);
         auto& edit = child<QLineEdit>(dialog, qPrintable(field));
-        QTest::keyClicks(&edit, text);
+        QTest::keyClicks(&edit, QStringLiteral("  open & sesame "));
+        QTest::keyClick(&edit, Qt::Key_Left);
+        QTest::keyClicks(&edit, QStringLiteral("%1"));
+        QTest::keyClick(&edit, Qt::Key_End);
         const QString getter = QStringLiteral("get") + property.at(0).toUpper() + property.mid(1);
         QCOMPARE(dialogFamily(name).operation(getter).call(*dialog, {}).toString(), text);
         paste(edit, QStringLiteral("\r\none\ntwo\u2028"));
