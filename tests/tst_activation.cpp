@@ -102,14 +102,14 @@ private Q_SLOTS:
     void pasteShortcut()
     {
         showDialog();
-        for (const char* path : {"0123456789012345678901234567890", "%41234567890123456789012345678901",
-                                 "%25012345678901234567890123456789"})
-            checkPasteShortcut(QStringLiteral("https://mdm.example.com/") + QLatin1String(path));
-        checkPasteShortcut(QStringLiteral("HTTPS://mdm.example.com/") + token);
+        for (const char* text : {"https://mdm.example.com/0123456789012345678901234567890",
+                                 "https://mdm.example.com/%41234567890123456789012345678901",
+                                 "https://mdm.example.com/%25012345678901234567890123456789",
+                                 "HTTPS://mdm.example.com/01234567890123456789012345678901"})
+            checkPasteShortcut(QLatin1String(text));
         QCOMPARE(fields(), QStringList({QString(), QString(), QString()}));
         checkPasteShortcut(QStringLiteral("Jane,\n\topen ") + link + QLatin1Char('.'));
         QCOMPARE(fields(), filled);
-        QVERIFY(child(dialog, "btnActivateNow").isEnabled());
 
         QStringList pieces = QStringLiteral("https: https:// http:// // mdm.example.com [::1] :8443 : / @ ? # %41 %2F "
                                             "% \u00fc \u00e9-x_~. \u200b \u0663")
@@ -208,25 +208,11 @@ private Q_SLOTS:
     {
         showDialog();
         // Each would take minutes in time that grows by the square of the length.
-        for (const QString& text :
-             {QStringLiteral("https:").repeated(180000), (token.left(31) + QLatin1Char('-')).repeated(32000)}) {
-            paste(field("edHost"), text);
-            QCOMPARE(field("edHost").text(), text);
-            field("edHost").clear();
-        }
+        paste(field("edHost"), QStringLiteral("https:").repeated(180000));
+        paste(field("edHost"), (token.left(31) + QLatin1Char('-')).repeated(32000));
+        QCOMPARE(field("edHost").text().size(), 180000 * 6 + 32000 * 32);
         paste(field("edPort"), QString(1 << 20, QLatin1Char(' ')) + link + QString(1 << 20, QLatin1Char('-')));
         QCOMPARE(fields(), filled);
-    }
-
-    void buttonFollowsTheToken()
-    {
-        showDialog();
-        QTest::keyClicks(&field("edHost"), QStringLiteral("mdm.example.com"));
-        QVERIFY(!child(dialog, "btnActivateNow").isEnabled());
-        QTest::keyClick(&field("edToken"), Qt::Key_Space);
-        QVERIFY(child(dialog, "btnActivateNow").isEnabled());
-        act(dialog, QStringLiteral("toggleStep()"));
-        QVERIFY(messages().contains(QStringLiteral("ActivationDialog::toggleStep()")));
     }
 };
 

@@ -112,8 +112,6 @@ private Q_SLOTS:
         };
         check(1.5F, 150);
         check(0.0199F, 1);
-        check(-3.0F, 0);
-        check(1.0e6F, 100000000);
         check(std::nanf(""), 0);
         check(Limits::max(), longest);
         check(-Limits::infinity(), 0);

@@ -335,6 +335,9 @@ private Q_SLOTS:
             QCOMPARE(user.text(), user.fontMetrics().elidedText(jane, Qt::ElideRight, user.maximumWidth()));
             QTRY_VERIFY(user.width() >= user.sizeHint().width());
         }
+        // Each button says whose session it ends.
+        for (const char* button : {"btnEndRemoteControlSession", "btnEndRemoteToolsSession"})
+            QVERIFY(child(session, button).accessibleName().contains(jane));
         const auto left = [&](const char* button) { return child(session, button).mapTo(&top, QPoint()).x(); };
         QCOMPARE(left("btnEndRemoteControlSession"), left("btnEndRemoteToolsSession"));
 
