@@ -18,11 +18,6 @@ private Q_SLOTS:
         const QRegularExpression year(QStringLiteral("^ (20\\d\\d) Brisel$"));
         const int built = year.match(dialog->getCopyright()).captured(1).toInt();
         QVERIFY(built >= 2024 && built <= QDate::currentDate().year());
-        for (const bool visible : {false, true}) {
-            dialog->setCopyrightVisible(visible);
-            QCOMPARE(child(dialog, "lblCopyright").isVisible(), visible);
-            QCOMPARE(child(dialog, "lblAllRightsReserved").isVisible(), visible);
-        }
         auto& link = child<QLabel>(dialog, "lblWebSiteLink");
         QTest::mouseClick(&link, Qt::LeftButton, Qt::NoModifier, QPoint(12, 8));
         QCOMPARE(takeEvents(), QStringList{QStringLiteral("evLinkClicked")});

@@ -125,23 +125,6 @@ private Q_SLOTS:
         checkEvents(prompt, QStringLiteral("allowButton"), QStringLiteral("evAllow"));
     }
 
-    void onlyButtonsAnswer()
-    {
-        auto* prompt = get<Prompt>();
-        prompt->setCountdown(30);
-        showActive(prompt);
-        auto& allow = child<QPushButton>(prompt, "allowButton");
-        auto& cancel = child<QPushButton>(prompt, "cancelButton");
-        QVERIFY(cancel.hasFocus() && cancel.isDefault() && !allow.isDefault());
-        checkEvents(prompt, QStringLiteral("Escape accept() reject() close"), QString());
-        child(prompt, "messageTextEdit").setFocus();
-        checkEvents(prompt, QStringLiteral("Return Enter Escape Space"), QString());
-        cancel.setFocus();
-        checkEvents(prompt, QStringLiteral("Return Space"), QStringLiteral("evCancel"));
-        allow.setFocus();
-        checkEvents(prompt, QStringLiteral("Space"), QStringLiteral("evAllow"));
-    }
-
     void cascade()
     {
         for (const float ratio : {1.0F, 1.2F}) {

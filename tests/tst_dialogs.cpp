@@ -12,7 +12,7 @@
 #include <QTextEdit>
 #include <QWheelEvent>
 
-/// What each dialog, those of remote sessions aside, reports for clicks, keys, slots and requests to close, where it
+/// What each dialog reports for clicks, keys, slots and requests to close, where it
 /// starts, and what the error message, the restart prompt and the options do besides.
 class DialogsTest : public GuiTest {
     Q_OBJECT
@@ -98,8 +98,18 @@ private Q_SLOTS:
         add("OptionDialog", "@edtAdress Return @spnbxPort Return @chkShowIcon Return @proxyGroupBox Return", "evSave",
             R"({"proxyEnabled": true})");
 
+        add("ApproveRemoteConnectionDialog", "Escape accept() reject() close", "", R"({"countdown": 30})");
+        add("ApproveRemoteConnectionDialog", "@messageTextEdit Return Enter Escape Space", "", R"({"countdown": 30})");
+        add("ApproveRemoteConnectionDialog", "Return @cancelButton Enter Space", "evCancel", R"({"countdown": 30})");
+        add("ApproveRemoteConnectionDialog", "@allowButton Space", "evAllow", R"({"countdown": 30})");
+        // Only the end of all sessions closes it, which have a test of their own.
+        add("RemoteConnectionDialog", "Escape A Return accept() reject() close", "");
+
         add("ServiceDeskTicketDialog", "Escape reject() slClose() close bnCancel btnClose", "evCancel");
-        add("ServiceDeskTicketDialog", "bnSubmit bnSubmit-", "", R"({"subject": "s"})");
+        add("ServiceDeskTicketDialog", "bnSubmit bnSubmit- @cbDepartment Return", "", R"({"subject": "s"})");
+        add("ServiceDeskTicketDialog", "@txIssueDetails Return", "", R"({"subject": "s", "issueDetails": "d"})");
+        for (const char* field : {"@edSubject Return!", "@cbDepartment Enter!", "@ckIncludeDeviceData Return!"})
+            add("ServiceDeskTicketDialog", field, "evSubmit", R"({"subject": "s", "issueDetails": "d"})");
         add("ServiceDeskTicketDialog", "bnSubmit", "evSubmit", R"({"subject": " ", "issueDetails": "d"})");
     }
     void events()

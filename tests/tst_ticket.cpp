@@ -1,11 +1,6 @@
 #include "GuiTest.h"
 
-#include <QCheckBox>
-#include <QClipboard>
-#include <QComboBox>
-#include <QLineEdit>
 #include <QMessageBox>
-#include <QMimeData>
 #include <QPointer>
 #include <QPushButton>
 #include <QTextEdit>
@@ -44,25 +39,6 @@ class TicketTest : public GuiTest {
     }
 
 private Q_SLOTS:
-    void returnSubmits()
-    {
-        auto* dialog = showFilled();
-        for (const char* field : {"edSubject", "cbDepartment", "ckIncludeDeviceData"}) {
-            child(dialog, field).setFocus();
-            press(dialog, Qt::Key_Return);
-            QCOMPARE(takeEvents(), QStringList{QStringLiteral("evSubmit")});
-            QVERIFY(!window(dialog).isVisible());
-            showActive(dialog);
-        }
-        // A submission that fails later finds everything where it was.
-        QCOMPARE(dialog->getSubject() + dialog->getIssueDetails(), QStringLiteral("abcdetails"));
-        child(dialog, "txIssueDetails").setFocus();
-        checkEvents(dialog, QStringLiteral("Return"), QString());
-        dialog->setIssueDetails(QString());
-        child(dialog, "edSubject").setFocus();
-        checkEvents(dialog, QStringLiteral("Return"), QString());
-    }
-
     void hostMayAnswerByAccepting()
     {
         auto* dialog = showFilled();

@@ -148,17 +148,6 @@ void GuiTest::paste(QWidget& field, const QString& text)
     QTest::keyClick(&field, Qt::Key_V, Qt::ControlModifier);
 }
 
-QString GuiTest::tabOrder(IBaseDialog* dialog)
-{
-    const QWidget* const start = window(dialog).focusWidget();
-    QStringList names;
-    do {
-        names << window(dialog).focusWidget()->objectName();
-        press(dialog, Qt::Key_Tab);
-    } while (window(dialog).focusWidget() != start && names.size() < 20);
-    return names.join(QLatin1Char(' '));
-}
-
 void GuiTest::textColumns(std::initializer_list<const char*> names)
 {
     for (const char* name : names)

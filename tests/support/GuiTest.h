@@ -74,8 +74,6 @@ protected:
     /// Fails unless each of the actions, separated by spaces, raises that event (none if empty) and leaves the dialog.
     void checkEvents(IBaseDialog* dialog, const QString& actions, const QString& event);
     static void paste(QWidget& field, const QString& text);
-    /// The names of the widgets that Tab goes through, from the focused one until it comes back to it.
-    static QString tabOrder(IBaseDialog* dialog);
 
     /// Test data that is all text; rows are named by their texts.
     static void textColumns(std::initializer_list<const char*> names);
