@@ -1,3 +1,4 @@
+#include "BrandingReport.h"
 #include "Gallery.h"
 #include "GuiInterface.h"
 #include "LineReader.h"
@@ -75,10 +76,11 @@ int main(int argc, char** argv)
     parser.setApplicationDescription(
         QStringLiteral("Loads the dialog plugin and drives its dialogs as an agent does.\n\n"
                        "  guihost run FILE      play a script of JSON Lines, \"-\" for standard input\n"
-                       "  guihost gallery DIR   render every dialog in its notable states"));
+                       "  guihost gallery DIR   render every dialog in its notable states\n"
+                       "  guihost branding [FILE]  say what a branding file gives and what in it is ignored"));
     parser.addHelpOption();
-    parser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("run or gallery"));
-    parser.addPositionalArgument(QStringLiteral("target"), QStringLiteral("the script or the directory"));
+    parser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("run, gallery or branding"));
+    parser.addPositionalArgument(QStringLiteral("target"), QStringLiteral("the script, the directory or the file"));
     parser.addOptions({
         {QStringLiteral("library"), QStringLiteral("The plugin; beside this program by default."),
          QStringLiteral("path"), QCoreApplication::applicationDirPath() + QStringLiteral("/Gui")},
@@ -95,6 +97,10 @@ int main(int argc, char** argv)
     });
     parser.process(application);
     const QStringList arguments = parser.positionalArguments();
+    if (arguments.value(0) == QLatin1String("branding") && arguments.size() <= 2) {
+        const QString beside = QCoreApplication::applicationDirPath() + QStringLiteral("/oem.strings");
+        return BrandingReport(arguments.value(1, beside)).print() ? Success : Failure;
+    }
     bool ratioIsNumber = false;
     const float ratio = parser.value(QStringLiteral("ratio")).toFloat(&ratioIsNumber);
     if (arguments.size() != 2 || !ratioIsNumber)
