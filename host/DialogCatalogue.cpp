@@ -35,6 +35,12 @@ qint64 pointInTime(const QString& text)
     return QDateTime::currentMSecsSinceEpoch() - before;
 }
 
+// A script calls an operation by its name and with JSON values. From the pointer to a member function the compiler
+// knows the types of the arguments and of the result: operation() takes them apart, makeOperation() stores a function
+// that converts each value with fromJson(), calls the member function, and converts the result with toJson(). So a
+// dialog's operations below are a list of names, and an operation whose types have no conversion does not compile.
+
+/// Throws ScriptError when @p value does not stand for a T.
 template <class T>
 T fromJson(const QJsonValue& value)
 {
@@ -91,6 +97,7 @@ QJsonValue toJson(qint64 value)
     return value;
 }
 
+/// One argument from each value; the positions are there because a pack of types cannot be counted through by itself.
 template <class... Arguments, std::size_t... Positions>
 std::tuple<std::decay_t<Arguments>...> argumentsFromJson(const QJsonArray& values, std::index_sequence<Positions...>)
 {
@@ -98,6 +105,7 @@ std::tuple<std::decay_t<Arguments>...> argumentsFromJson(const QJsonArray& value
     return {fromJson<std::decay_t<Arguments>>(values.at(Positions))...};
 }
 
+/// The JSON type of what a script gives for an argument of type T.
 template <class T>
 constexpr QJsonValue::Type jsonType()
 {
@@ -111,6 +119,7 @@ constexpr QJsonValue::Type jsonType()
         return QJsonValue::Double;
 }
 
+/// @p function has a type of its own, because a const member function differs from others in its type only.
 template <class Interface, class Function, class Result, class... Arguments>
 Operation makeOperation(const char* name, Function function)
 {
@@ -148,10 +157,12 @@ Operation operation(const char* name, Result (Interface::*function)(Arguments...
 
 using Events = QHash<int, QString>;
 
+template <class Interface>
 Family family(const char* name, Events events, QVector<Operation> operations, const char* moreSignalArguments = "")
 {
     Family result;
     result.name = QLatin1String(name);
+    result.type = &typeid(Interface);
     result.receiverSlot = QByteArray::number(QSLOT_CODE) + "onDialogEvent(I" + name + "*,I" + name + "::TEvent"
         + moreSignalArguments + ")";
     result.events = std::move(events);
@@ -159,6 +170,7 @@ Family family(const char* name, Events events, QVector<Operation> operations, co
     return result;
 }
 
+/// A dialog of which there is one at a time: its operations of GuiInterface take no id.
 template <class Interface>
 Family single(Family family, Interface* (GuiInterface::*get)(), bool (GuiInterface::*remove)(),
               bool (GuiInterface::*attach)(const QObject*, const char*))
@@ -171,6 +183,7 @@ Family single(Family family, Interface* (GuiInterface::*get)(), bool (GuiInterfa
     return family;
 }
 
+/// The approval prompt, of which there is one for each connection.
 Family perConnection(Family family)
 {
     family.get = [](GuiInterface& gui, const QString& id) -> IBaseDialog* {
@@ -185,145 +198,130 @@ Family perConnection(Family family)
     return family;
 }
 
+// Names for scripts are the names in C++, and only macros see those. EVENT and OPERATION refer to the type `Interface`
+// of the function that uses them.
 #define EVENT(name)                                                                                                    \
     {                                                                                                                  \
         Interface::name, QStringLiteral(#name)                                                                         \
     }
 #define OPERATION(name) operation(#name, &Interface::name)
-#define SINGLE(Name, family)                                                                                           \
-    single(family, &GuiInterface::get##Name##Instance, &GuiInterface::delete##Name##Instance,                          \
-           &GuiInterface::attach##Name##EventHandler)
+#define SINGLE(Name, ...)                                                                                              \
+    single(family<I##Name>(#Name, __VA_ARGS__), &GuiInterface::get##Name##Instance,                                    \
+           &GuiInterface::delete##Name##Instance, &GuiInterface::attach##Name##EventHandler)
 
 Family aboutFamily()
 {
     using Interface = IAboutDialog;
-    return SINGLE(
-        AboutDialog,
-        family("AboutDialog", Events{EVENT(evClose), EVENT(evUpdateNow), EVENT(evLinkClicked)},
-               {OPERATION(getVersion), OPERATION(setVersion), OPERATION(getCopyright), OPERATION(setCopyright),
-                OPERATION(getServer), OPERATION(setServer), OPERATION(getLastCommunicationTime),
-                OPERATION(setLastCommunicationTime), OPERATION(setCopyrightVisible)}));
+    return SINGLE(AboutDialog, Events{EVENT(evClose), EVENT(evUpdateNow), EVENT(evLinkClicked)},
+                  {OPERATION(getVersion), OPERATION(setVersion), OPERATION(getCopyright), OPERATION(setCopyright),
+                   OPERATION(getServer), OPERATION(setServer), OPERATION(getLastCommunicationTime),
+                   OPERATION(setLastCommunicationTime), OPERATION(setCopyrightVisible)});
 }
 
 Family activationFamily()
 {
     using Interface = IActivationDialog;
-    return SINGLE(ActivationDialog,
-                  family("ActivationDialog", Events{EVENT(evClose), EVENT(evEnroll), EVENT(evGoToRegistration)},
-                         {OPERATION(getServerUrl), OPERATION(setServerUrl), OPERATION(getToken), OPERATION(setToken)}));
+    return SINGLE(ActivationDialog, Events{EVENT(evClose), EVENT(evEnroll), EVENT(evGoToRegistration)},
+                  {OPERATION(getServerUrl), OPERATION(setServerUrl), OPERATION(getToken), OPERATION(setToken)});
 }
 
 Family acceptMessageFamily()
 {
     using Interface = IAcceptMessageDialog;
-    return SINGLE(AcceptMessageDialog,
-                  family("AcceptMessageDialog", Events{EVENT(evClose), EVENT(evOk)},
-                         {OPERATION(message), OPERATION(setMessage)}));
+    return SINGLE(AcceptMessageDialog, Events{EVENT(evClose), EVENT(evOk)},
+                  {OPERATION(message), OPERATION(setMessage)});
 }
 
 Family errorMessageFamily()
 {
     using Interface = IErrorMessageDialog;
-    return SINGLE(ErrorMessageDialog,
-                  family("ErrorMessageDialog", Events{EVENT(evClose), EVENT(evTryAgain)},
-                         {OPERATION(message), OPERATION(setMessage)}));
+    return SINGLE(ErrorMessageDialog, Events{EVENT(evClose), EVENT(evTryAgain)},
+                  {OPERATION(message), OPERATION(setMessage)});
 }
 
 Family progressFamily()
 {
     using Interface = IProgressDialog;
-    return SINGLE(ProgressDialog,
-                  family("ProgressDialog", Events{EVENT(evClose), EVENT(evCancel)},
-                         {OPERATION(getMessage), OPERATION(setMessage), OPERATION(setProgress), OPERATION(getProgress),
-                          OPERATION(startWaiter), OPERATION(hideProgressValue)}));
+    return SINGLE(ProgressDialog, Events{EVENT(evClose), EVENT(evCancel)},
+                  {OPERATION(getMessage), OPERATION(setMessage), OPERATION(setProgress), OPERATION(getProgress),
+                   OPERATION(startWaiter), OPERATION(hideProgressValue)});
 }
 
 Family authorizationFamily()
 {
     using Interface = IAuthorizationDialog;
-    return SINGLE(
-        AuthorizationDialog,
-        family("AuthorizationDialog", Events{EVENT(evClose), EVENT(evLogin), EVENT(evGoToWeb)},
-               {OPERATION(getUsername), OPERATION(setUsername), OPERATION(getPassword), OPERATION(setPassword)}));
+    return SINGLE(AuthorizationDialog, Events{EVENT(evClose), EVENT(evLogin), EVENT(evGoToWeb)},
+                  {OPERATION(getUsername), OPERATION(setUsername), OPERATION(getPassword), OPERATION(setPassword)});
 }
 
 Family zentPasswordFamily()
 {
     using Interface = IZentPasswordDialog;
-    return SINGLE(ZentPasswordDialog,
-                  family("ZentPasswordDialog", Events{EVENT(evClose), EVENT(evContinue)},
-                         {OPERATION(getPassword), OPERATION(setPassword)}));
+    return SINGLE(ZentPasswordDialog, Events{EVENT(evClose), EVENT(evContinue)},
+                  {OPERATION(getPassword), OPERATION(setPassword)});
 }
 
 Family optionFamily()
 {
     using Interface = IOptionDialog;
-    return SINGLE(OptionDialog,
-                  family("OptionDialog", Events{EVENT(evClose), EVENT(evDeactivate), EVENT(evSave)},
-                         {OPERATION(isShowTrayIcon), OPERATION(setShowTrayIcon), OPERATION(isAutoUpdate),
-                          OPERATION(setAutoUpdate), OPERATION(setAutoUpdateHidden), OPERATION(isProxyEnabled),
-                          OPERATION(setProxyEnabled), OPERATION(getProxyAddress), OPERATION(setProxyAddress),
-                          OPERATION(getProxyPort), OPERATION(setProxyPort), OPERATION(isProxyAuthEnabled),
-                          OPERATION(setProxyAuthEnabled), OPERATION(getProxyLogin), OPERATION(setProxyLogin),
-                          OPERATION(getProxyPassword), OPERATION(setProxyPassword), OPERATION(hideDeactivateButton)}));
+    return SINGLE(OptionDialog, Events{EVENT(evClose), EVENT(evDeactivate), EVENT(evSave)},
+                  {OPERATION(isShowTrayIcon), OPERATION(setShowTrayIcon), OPERATION(isAutoUpdate),
+                   OPERATION(setAutoUpdate), OPERATION(setAutoUpdateHidden), OPERATION(isProxyEnabled),
+                   OPERATION(setProxyEnabled), OPERATION(getProxyAddress), OPERATION(setProxyAddress),
+                   OPERATION(getProxyPort), OPERATION(setProxyPort), OPERATION(isProxyAuthEnabled),
+                   OPERATION(setProxyAuthEnabled), OPERATION(getProxyLogin), OPERATION(setProxyLogin),
+                   OPERATION(getProxyPassword), OPERATION(setProxyPassword), OPERATION(hideDeactivateButton)});
 }
 
 Family rebootFamily()
 {
     using Interface = IRebootDialog;
-    return SINGLE(RebootDialog,
-                  family("RebootDialog", Events{EVENT(evRebootNow), EVENT(evPostpone), EVENT(evClosed)},
-                         {OPERATION(getMessage), OPERATION(setMessage), OPERATION(getPostponePeriod),
-                          OPERATION(setPostponePeriod), OPERATION(isShutdown), OPERATION(setShutdown)}));
+    return SINGLE(RebootDialog, Events{EVENT(evRebootNow), EVENT(evPostpone), EVENT(evClosed)},
+                  {OPERATION(getMessage), OPERATION(setMessage), OPERATION(getPostponePeriod),
+                   OPERATION(setPostponePeriod), OPERATION(isShutdown), OPERATION(setShutdown)});
 }
 
 Family enterPasswordFamily()
 {
     using Interface = IEnterPasswordDialog;
-    return SINGLE(
-        EnterPasswordDialog,
-        family("EnterPasswordDialog", Events{EVENT(evOk), EVENT(evCancel), EVENT(evCloseClicked)},
-               {OPERATION(getAccessMode), OPERATION(setAccessMode), OPERATION(isCustomPasswordSelected),
-                OPERATION(setCustomPasswordSelected), OPERATION(getDomain), OPERATION(setDomain), OPERATION(getLogin),
-                OPERATION(setLogin), OPERATION(getAdministratorPassword), OPERATION(setAdministratorPassword),
-                OPERATION(getZentPassword), OPERATION(setZentPassword)}));
+    return SINGLE(EnterPasswordDialog, Events{EVENT(evOk), EVENT(evCancel), EVENT(evCloseClicked)},
+                  {OPERATION(getAccessMode), OPERATION(setAccessMode), OPERATION(isCustomPasswordSelected),
+                   OPERATION(setCustomPasswordSelected), OPERATION(getDomain), OPERATION(setDomain),
+                   OPERATION(getLogin), OPERATION(setLogin), OPERATION(getAdministratorPassword),
+                   OPERATION(setAdministratorPassword), OPERATION(getZentPassword), OPERATION(setZentPassword)});
 }
 
 Family serviceDeskTicketFamily()
 {
     using Interface = IServiceDeskTicketDialog;
     return SINGLE(
-        ServiceDeskTicketDialog,
-        family("ServiceDeskTicketDialog", Events{EVENT(evCancel), EVENT(evSubmit)},
-               {OPERATION(getSubject), OPERATION(setSubject), OPERATION(getDepartmentIndex), OPERATION(getDepartment),
-                OPERATION(setDepartment), OPERATION(setDepartments), OPERATION(getPriorityIndex),
-                OPERATION(getPriority), OPERATION(setPriority), OPERATION(setPriorities), OPERATION(getIssueDetails),
-                OPERATION(setIssueDetails), OPERATION(isIncludeDeviceData), OPERATION(setIncludeDeviceData),
-                OPERATION(getSubjectMaxLength), OPERATION(setSubjectMaxLength), OPERATION(getIssueDetailsMaxLength),
-                OPERATION(setIssueDetailsMaxLength)}));
+        ServiceDeskTicketDialog, Events{EVENT(evCancel), EVENT(evSubmit)},
+        {OPERATION(getSubject), OPERATION(setSubject), OPERATION(getDepartmentIndex), OPERATION(getDepartment),
+         OPERATION(setDepartment), OPERATION(setDepartments), OPERATION(getPriorityIndex), OPERATION(getPriority),
+         OPERATION(setPriority), OPERATION(setPriorities), OPERATION(getIssueDetails), OPERATION(setIssueDetails),
+         OPERATION(isIncludeDeviceData), OPERATION(setIncludeDeviceData), OPERATION(getSubjectMaxLength),
+         OPERATION(setSubjectMaxLength), OPERATION(getIssueDetailsMaxLength), OPERATION(setIssueDetailsMaxLength)});
 }
 
 Family remoteConnectionFamily()
 {
     using Interface = IRemoteConnectionDialog;
-    return SINGLE(RemoteConnectionDialog,
-                  family("RemoteConnectionDialog",
-                         Events{EVENT(evRemoteControlSessionEnded), EVENT(evEndRemoteToolsSession),
-                                EVENT(evRemoteToolsPopupClosed), EVENT(evRemoteToolsSessionEnded),
-                                EVENT(evRemoteControlPopupClosed)},
-                         {OPERATION(addRemoteControlSession), OPERATION(endRemoteControlSession),
-                          OPERATION(hasRemoteControlSessions), OPERATION(setKeepEndedSessionPanels),
-                          OPERATION(startRemoteToolsSession), OPERATION(endRemoteToolsSession),
-                          OPERATION(isRemoteToolsPopupShown), OPERATION(addLogEvent), OPERATION(remoteToolsSessionId),
-                          OPERATION(setKeepRemoteToolsPopup), OPERATION(setLogExpanderEnabled), OPERATION(clearLog),
-                          OPERATION(addEmptyLogRow), OPERATION(remoteToolsValue)},
-                         ",QString"));
+    return SINGLE(
+        RemoteConnectionDialog,
+        Events{EVENT(evRemoteControlSessionEnded), EVENT(evEndRemoteToolsSession), EVENT(evRemoteToolsPopupClosed),
+               EVENT(evRemoteToolsSessionEnded), EVENT(evRemoteControlPopupClosed)},
+        {OPERATION(addRemoteControlSession), OPERATION(endRemoteControlSession), OPERATION(hasRemoteControlSessions),
+         OPERATION(setKeepEndedSessionPanels), OPERATION(startRemoteToolsSession), OPERATION(endRemoteToolsSession),
+         OPERATION(isRemoteToolsPopupShown), OPERATION(addLogEvent), OPERATION(remoteToolsSessionId),
+         OPERATION(setKeepRemoteToolsPopup), OPERATION(setLogExpanderEnabled), OPERATION(clearLog),
+         OPERATION(addEmptyLogRow), OPERATION(remoteToolsValue)},
+        ",QString");
 }
 
 Family approveRemoteConnectionFamily()
 {
     using Interface = IApproveRemoteConnectionDialog;
-    return perConnection(family(
+    return perConnection(family<Interface>(
         "ApproveRemoteConnectionDialog", Events{EVENT(evCancel), EVENT(evAllow), EVENT(evTimeout)},
         {OPERATION(getCountdown), OPERATION(setCountdown), OPERATION(getRequesterName), OPERATION(setRequesterName),
          OPERATION(setCountdownOnCancel), OPERATION(getCountdownOnCancel), OPERATION(setContextValue),
@@ -423,4 +421,13 @@ const Family& dialogFamily(const QString& name)
             return family;
     }
     throw ScriptError(QStringLiteral("there is no dialog \"%1\"").arg(name));
+}
+
+const Family& dialogFamily(const std::type_info& type)
+{
+    for (const Family& family : dialogFamilies()) {
+        if (*family.type == type)
+            return family;
+    }
+    throw ScriptError(QStringLiteral("there is no dialog of the type %1").arg(QLatin1String(type.name())));
 }

@@ -9,6 +9,7 @@
 
 #include <functional>
 #include <stdexcept>
+#include <typeinfo>
 
 class GuiInterface;
 class IBaseDialog;
@@ -37,6 +38,8 @@ struct Operation {
 /// One dialog type: its three operations of GuiInterface, its events and its own operations, by name.
 struct Family {
     QString name;
+    /// The dialog's interface, for example typeid(IAboutDialog).
+    const std::type_info* type = nullptr;
     std::function<IBaseDialog*(GuiInterface&, const QString& id)> get;
     std::function<bool(GuiInterface&, const QString& id)> remove;
     std::function<bool(GuiInterface&, const QObject* receiver, const char* slot, const QString& id)> attach;
@@ -60,3 +63,11 @@ const QVector<Family>& dialogFamilies();
 
 /// Throws ScriptError when there is no such family.
 const Family& dialogFamily(const QString& name);
+
+const Family& dialogFamily(const std::type_info& type);
+/// The family of an interface, for example dialogFamily<IAboutDialog>().
+template <class Interface>
+const Family& dialogFamily()
+{
+    return dialogFamily(typeid(Interface));
+}

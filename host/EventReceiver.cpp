@@ -1,69 +1,76 @@
 #include "EventReceiver.h"
 
+#include "DialogCatalogue.h"
+
+template <class Interface>
+void EventReceiver::report(Interface* sender, int event, const QString& sessionId)
+{
+    Q_EMIT received({sender, dialogFamily<Interface>().name, event, sessionId});
+}
+
 void EventReceiver::onDialogEvent(IAboutDialog* pSender, IAboutDialog::TEvent eventType)
 {
-    Q_EMIT received({pSender, QStringLiteral("AboutDialog"), eventType, QString()});
+    report(pSender, eventType);
 }
 
 void EventReceiver::onDialogEvent(IAcceptMessageDialog* pSender, IAcceptMessageDialog::TEvent eventType)
 {
-    Q_EMIT received({pSender, QStringLiteral("AcceptMessageDialog"), eventType, QString()});
+    report(pSender, eventType);
 }
 
 void EventReceiver::onDialogEvent(IActivationDialog* pSender, IActivationDialog::TEvent eventType)
 {
-    Q_EMIT received({pSender, QStringLiteral("ActivationDialog"), eventType, QString()});
+    report(pSender, eventType);
 }
 
 void EventReceiver::onDialogEvent(IApproveRemoteConnectionDialog* pSender,
                                   IApproveRemoteConnectionDialog::TEvent eventType)
 {
-    Q_EMIT received({pSender, QStringLiteral("ApproveRemoteConnectionDialog"), eventType, QString()});
+    report(pSender, eventType);
 }
 
 void EventReceiver::onDialogEvent(IAuthorizationDialog* pSender, IAuthorizationDialog::TEvent eventType)
 {
-    Q_EMIT received({pSender, QStringLiteral("AuthorizationDialog"), eventType, QString()});
+    report(pSender, eventType);
 }
 
 void EventReceiver::onDialogEvent(IEnterPasswordDialog* pSender, IEnterPasswordDialog::TEvent eventType)
 {
-    Q_EMIT received({pSender, QStringLiteral("EnterPasswordDialog"), eventType, QString()});
+    report(pSender, eventType);
 }
 
 void EventReceiver::onDialogEvent(IErrorMessageDialog* pSender, IErrorMessageDialog::TEvent eventType)
 {
-    Q_EMIT received({pSender, QStringLiteral("ErrorMessageDialog"), eventType, QString()});
+    report(pSender, eventType);
 }
 
 void EventReceiver::onDialogEvent(IOptionDialog* pSender, IOptionDialog::TEvent eventType)
 {
-    Q_EMIT received({pSender, QStringLiteral("OptionDialog"), eventType, QString()});
+    report(pSender, eventType);
 }
 
 void EventReceiver::onDialogEvent(IProgressDialog* pSender, IProgressDialog::TEvent eventType)
 {
-    Q_EMIT received({pSender, QStringLiteral("ProgressDialog"), eventType, QString()});
+    report(pSender, eventType);
 }
 
 void EventReceiver::onDialogEvent(IRebootDialog* pSender, IRebootDialog::TEvent eventType)
 {
-    Q_EMIT received({pSender, QStringLiteral("RebootDialog"), eventType, QString()});
+    report(pSender, eventType);
 }
 
 void EventReceiver::onDialogEvent(IRemoteConnectionDialog* pSender, IRemoteConnectionDialog::TEvent eventType,
                                   const QString& sessionId)
 {
-    Q_EMIT received({pSender, QStringLiteral("RemoteConnectionDialog"), eventType,
-                     sessionId.isNull() ? QLatin1String("") : sessionId});
+    report(pSender, eventType, sessionId.isNull() ? QLatin1String("") : sessionId);
 }
 
 void EventReceiver::onDialogEvent(IServiceDeskTicketDialog* pSender, IServiceDeskTicketDialog::TEvent eventType)
 {
-    Q_EMIT received({pSender, QStringLiteral("ServiceDeskTicketDialog"), eventType, QString()});
+    report(pSender, eventType);
 }
 
 void EventReceiver::onDialogEvent(IZentPasswordDialog* pSender, IZentPasswordDialog::TEvent eventType)
 {
-    Q_EMIT received({pSender, QStringLiteral("ZentPasswordDialog"), eventType, QString()});
+    report(pSender, eventType);
 }

@@ -51,4 +51,8 @@ public Q_SLOTS:
                        const QString& sessionId);
     void onDialogEvent(IServiceDeskTicketDialog* pSender, IServiceDeskTicketDialog::TEvent eventType);
     void onDialogEvent(IZentPasswordDialog* pSender, IZentPasswordDialog::TEvent eventType);
+
+private:
+    template <class Interface>
+    void report(Interface* sender, int event, const QString& sessionId = QString());
 };

@@ -30,7 +30,7 @@ QString linkTo(const QString& address)
 }
 } // namespace
 
-AboutDialog::AboutDialog(QWidget* parent) : BaseDialog(parent), ui(new Ui::AboutDialog)
+AboutDialog::AboutDialog(QWidget* parent) : BaseDialog(parent), ui(std::make_unique<Ui::AboutDialog>())
 {
     ui->setupUi(this);
     setCopyright(QStringLiteral(" %1 %2").arg(buildYear(), QStringLiteral("Brisel")));

@@ -2,7 +2,8 @@
 
 #include "ui_AcceptMessageDialog.h"
 
-AcceptMessageDialog::AcceptMessageDialog(const QString& message, QWidget*) : ui(new Ui::AcceptMessageDialog)
+AcceptMessageDialog::AcceptMessageDialog(const QString& message, QWidget*)
+    : ui(std::make_unique<Ui::AcceptMessageDialog>())
 {
     ui->setupUi(this);
     setupWindow();

@@ -51,7 +51,7 @@ QString withoutInvisibles(QString text)
 }
 } // namespace
 
-ActivationDialog::ActivationDialog(QWidget* parent) : BaseDialog(parent), ui(new Ui::ActivationDialog)
+ActivationDialog::ActivationDialog(QWidget* parent) : BaseDialog(parent), ui(std::make_unique<Ui::ActivationDialog>())
 {
     ui->setupUi(this);
     setupWindow();

@@ -44,7 +44,7 @@ bool isTaken(const QPoint& place, const QWidget* self)
 } // namespace
 
 ApproveRemoteConnectionDialog::ApproveRemoteConnectionDialog(QWidget* parent)
-    : BaseDialog(parent), ui(new Ui::ApproveRemoteConnectionDialog)
+    : BaseDialog(parent), ui(std::make_unique<Ui::ApproveRemoteConnectionDialog>())
 {
     ui->setupUi(this);
     // Unlike the frameless dialogs the prompt shows its own background.

@@ -20,7 +20,8 @@ QString reminderLink(const QString& text)
 }
 } // namespace
 
-AuthorizationDialog::AuthorizationDialog(QWidget* parent) : BaseDialog(parent), ui(new Ui::AuthorizationDialog)
+AuthorizationDialog::AuthorizationDialog(QWidget* parent)
+    : BaseDialog(parent), ui(std::make_unique<Ui::AuthorizationDialog>())
 {
     ui->setupUi(this);
     setupWindow();

@@ -12,7 +12,8 @@ enum AccessMode {
 };
 } // namespace
 
-EnterPasswordDialog::EnterPasswordDialog(QWidget* parent) : BaseDialog(parent), ui(new Ui::EnterPasswordDialog)
+EnterPasswordDialog::EnterPasswordDialog(QWidget* parent)
+    : BaseDialog(parent), ui(std::make_unique<Ui::EnterPasswordDialog>())
 {
     ui->setupUi(this);
     setupWindow();

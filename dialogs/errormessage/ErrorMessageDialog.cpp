@@ -2,7 +2,8 @@
 
 #include "ui_ErrorMessageDialog.h"
 
-ErrorMessageDialog::ErrorMessageDialog(const QString& message, QWidget*) : ui(new Ui::ErrorMessageDialog)
+ErrorMessageDialog::ErrorMessageDialog(const QString& message, QWidget*)
+    : ui(std::make_unique<Ui::ErrorMessageDialog>())
 {
     ui->setupUi(this);
     setupWindow();

@@ -2,7 +2,7 @@
 
 #include "ui_OptionDialog.h"
 
-OptionDialog::OptionDialog(QWidget* parent) : BaseDialog(parent), ui(new Ui::OptionDialog)
+OptionDialog::OptionDialog(QWidget* parent) : BaseDialog(parent), ui(std::make_unique<Ui::OptionDialog>())
 {
     ui->setupUi(this);
     setupWindow();

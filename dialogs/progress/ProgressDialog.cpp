@@ -26,7 +26,8 @@ int tenthInMsecs(float seconds)
 int ProgressDialog::nextFrame = 0;
 
 ProgressDialog::ProgressDialog(QWidget* parent)
-    : BaseDialog(parent), ui(new Ui::ProgressDialog), animationTimer(new QTimer(this)), waiterTimer(new QTimer(this))
+    : BaseDialog(parent), ui(std::make_unique<Ui::ProgressDialog>()), animationTimer(new QTimer(this)),
+      waiterTimer(new QTimer(this))
 {
     ui->setupUi(this);
     setupWindow();

@@ -33,7 +33,7 @@ protected:
 };
 } // namespace
 
-RebootDialog::RebootDialog(QWidget* parent) : BaseDialog(parent), ui(new Ui::RebootDialog)
+RebootDialog::RebootDialog(QWidget* parent) : BaseDialog(parent), ui(std::make_unique<Ui::RebootDialog>())
 {
     setWindowFlag(Qt::WindowCloseButtonHint, false);
     setWindowFlag(Qt::WindowStaysOnTopHint);

@@ -41,7 +41,7 @@ bool isOnAnyScreen(const QRect& window)
 } // namespace
 
 RemoteConnectionDialog::RemoteConnectionDialog(QWidget* parent)
-    : BaseDialog(parent), ui(new Ui::RemoteConnectionDialog), logModel(new LogsListModel(this))
+    : BaseDialog(parent), ui(std::make_unique<Ui::RemoteConnectionDialog>()), logModel(new LogsListModel(this))
 {
     ui->setupUi(this);
     RemoteConnectionDialog::setupWindow();

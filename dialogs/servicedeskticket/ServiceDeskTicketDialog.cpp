@@ -60,7 +60,7 @@ int characterBoundary(QTextDocument* document, int limit)
 } // namespace
 
 ServiceDeskTicketDialog::ServiceDeskTicketDialog(QWidget* parent)
-    : BaseDialog(parent), ui(new Ui::ServiceDeskTicketDialog)
+    : BaseDialog(parent), ui(std::make_unique<Ui::ServiceDeskTicketDialog>())
 {
     ui->setupUi(this);
     setupWindow();

@@ -4,7 +4,8 @@
 #include "HintPicture.h"
 #include "ui_ZentPasswordDialog.h"
 
-ZentPasswordDialog::ZentPasswordDialog(QWidget* parent) : BaseDialog(parent), ui(new Ui::ZentPasswordDialog)
+ZentPasswordDialog::ZentPasswordDialog(QWidget* parent)
+    : BaseDialog(parent), ui(std::make_unique<Ui::ZentPasswordDialog>())
 {
     ui->setupUi(this);
     setupWindow();

@@ -34,7 +34,7 @@ protected:
     template <class Interface>
     Interface* get(const QString& id = QString())
     {
-        return dynamic_cast<Interface*>(get(familyName(static_cast<Interface*>(nullptr)), id));
+        return dynamic_cast<Interface*>(get(dialogFamily<Interface>().name, id));
     }
     IBaseDialog* get(const QString& family, const QString& id = QString());
     /// Gets and shows a dialog and gives its window the focus.
@@ -99,30 +99,11 @@ protected Q_SLOTS:
     void cleanup();
 
 private:
-    template <class Interface>
-    static QString familyName(Interface*);
-
     EventReceiver recorder;
     QVector<QPair<QString, QString>> got;
     QVector<QRegularExpression> expectedWarnings;
     std::function<void()> nextReaction;
 };
-
-// clang-format off
-template <> inline QString GuiTest::familyName(IAboutDialog*) { return QStringLiteral("AboutDialog"); }
-template <> inline QString GuiTest::familyName(IAcceptMessageDialog*) { return QStringLiteral("AcceptMessageDialog"); }
-template <> inline QString GuiTest::familyName(IActivationDialog*) { return QStringLiteral("ActivationDialog"); }
-template <> inline QString GuiTest::familyName(IApproveRemoteConnectionDialog*) { return QStringLiteral("ApproveRemoteConnectionDialog"); }
-template <> inline QString GuiTest::familyName(IAuthorizationDialog*) { return QStringLiteral("AuthorizationDialog"); }
-template <> inline QString GuiTest::familyName(IEnterPasswordDialog*) { return QStringLiteral("EnterPasswordDialog"); }
-template <> inline QString GuiTest::familyName(IErrorMessageDialog*) { return QStringLiteral("ErrorMessageDialog"); }
-template <> inline QString GuiTest::familyName(IOptionDialog*) { return QStringLiteral("OptionDialog"); }
-template <> inline QString GuiTest::familyName(IProgressDialog*) { return QStringLiteral("ProgressDialog"); }
-template <> inline QString GuiTest::familyName(IRebootDialog*) { return QStringLiteral("RebootDialog"); }
-template <> inline QString GuiTest::familyName(IRemoteConnectionDialog*) { return QStringLiteral("RemoteConnectionDialog"); }
-template <> inline QString GuiTest::familyName(IServiceDeskTicketDialog*) { return QStringLiteral("ServiceDeskTicketDialog"); }
-template <> inline QString GuiTest::familyName(IZentPasswordDialog*) { return QStringLiteral("ZentPasswordDialog"); }
-// clang-format on
 
 /// The bytes that the program has allocated, 0 where nobody knows.
 size_t memoryInUse();
