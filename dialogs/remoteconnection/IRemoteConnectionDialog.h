@@ -13,6 +13,9 @@
 /// back. Close requests are ignored. Names, paths and keys from the remote side are shown as plain text; control
 /// characters in them become visible.
 ///
+/// Every operation may be called inside the slot of an event, also the one that the event tells of: what changes
+/// nothing any more is not reported again while that slot runs.
+///
 /// Signal: `dialogEvent(IRemoteConnectionDialog* pSender, IRemoteConnectionDialog::TEvent eventType,
 /// const QString& sessionId)`
 class IRemoteConnectionDialog : public virtual IBaseDialog {
