@@ -29,7 +29,7 @@ public:
     /// Hides the dialog, emits QDialog's `finished(result)` and makes a running exec() return @p result.
     virtual void done(int result) = 0;
 
-    /// Shows the dialog application-modal and runs an event loop until the dialog is hidden or deleted, by the host or
+    /// Shows the dialog modal and runs an event loop until the dialog is hidden or deleted, by the host or
     /// by a close request that hides it. Returns the result given to done(), 0 otherwise. Events alone do not end it.
     virtual int exec() = 0;
 
