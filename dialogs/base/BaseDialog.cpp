@@ -2,6 +2,7 @@
 
 #include "BrandingStrings.h"
 #include "DisplayText.h"
+#include "ElidedLabel.h"
 
 #include <QCloseEvent>
 #include <QFont>
@@ -136,9 +137,14 @@ void BaseDialog::setCaption(QLabel* prefixLabel, QLabel* titleLabel, const QStri
 {
     prefixLabel->setTextFormat(Qt::PlainText);
     prefixLabel->setText(captionPrefix);
+    if (prefixLabel->sizeHint().width() > prefixLabel->width())
+        prefixLabel->setToolTip(literalToolTip(captionPrefix.trimmed()));
     setTitle(title);
-    if (titleLabel)
-        titleLabel->setText(title);
+    if (!titleLabel)
+        return;
+    titleLabel->setText(title);
+    if (auto* name = qobject_cast<ElidedLabel*>(prefixLabel))
+        name->keepOffTextOf(titleLabel);
 }
 
 void BaseDialog::setTitle(const QString& title)

@@ -60,7 +60,6 @@ private:
     bool updateSubmitButton();
     bool isSubjectValid() const;
     bool isIssueDetailsValid() const;
-    void dropHalfCharacter();
     bool confirmDiscard();
     void setItems(QComboBox* comboBox, const QStringList& items);
     void setItem(QComboBox* comboBox, const QString& item);
@@ -69,7 +68,6 @@ private:
     /// Whether the person edited something that closing would lose.
     bool changed = false;
     int issueDetailsMaxLength = 0;
-    /// Where the latest edit of the details began.
-    int editPosition = 0;
+    /// While the host's slot for evSubmit runs.
     bool submitting = false;
 };

@@ -4,6 +4,11 @@
 #include <QStyle>
 #include <QStyleOption>
 
+void ElidedLabel::keepOffTextOf(const QLabel* label)
+{
+    neighbour = label;
+}
+
 void ElidedLabel::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
@@ -11,7 +16,15 @@ void ElidedLabel::paintEvent(QPaintEvent*)
     option.initFrom(this);
     style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, this);
 
-    const QRect area = contentsRect().adjusted(margin(), margin(), -margin(), -margin());
+    QRect area = contentsRect().adjusted(margin(), margin(), -margin(), -margin());
+    if (neighbour) {
+        const int textWidth = neighbour->sizeHint().width();
+        const bool isRightAligned = neighbour->alignment().testFlag(Qt::AlignRight);
+        const int textStart = isRightAligned ? neighbour->geometry().right() - textWidth : neighbour->x();
+        const int nameEnd = area.center().x() + fontMetrics().horizontalAdvance(text()) / 2;
+        if (x() + nameEnd > textStart)
+            area.setRight(qMin(area.right(), textStart - x()));
+    }
     // A line break would be a second line that nobody sees.
     const QString line = QString(text()).replace(QLatin1Char('\n'), QLatin1Char(' '));
     const QString visible = fontMetrics().elidedText(line, Qt::ElideMiddle, area.width());
