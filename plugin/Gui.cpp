@@ -20,7 +20,6 @@
 #include <QMetaMethod>
 #include <QTranslator>
 
-#include <cmath>
 #include <type_traits>
 
 namespace {
@@ -60,8 +59,7 @@ Gui::~Gui() = default;
 
 void Gui::setRatio(float newRatio)
 {
-    if (std::isfinite(newRatio) && newRatio > 0.0F)
-        ratio = newRatio;
+    ratio = newRatio;
 }
 
 float Gui::getRatio() const

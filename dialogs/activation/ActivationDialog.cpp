@@ -45,7 +45,6 @@ ActivationDialog::ActivationDialog(QWidget* parent) : BaseDialog(parent), ui(std
 
     auto* pasteShortcut = new QShortcut(QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_V), this);
     connect(pasteShortcut, &QShortcut::activated, this, &ActivationDialog::slPasteEnrollDataFromClipboard);
-    ui->edHost->setFocus();
 }
 
 ActivationDialog::~ActivationDialog() = default;
@@ -119,6 +118,11 @@ void ActivationDialog::slActivate()
 void ActivationDialog::slPasteEnrollDataFromClipboard()
 {
     takeLink(QGuiApplication::clipboard()->text());
+}
+
+QWidget* ActivationDialog::startWidget()
+{
+    return firstEmpty({ui->edHost, ui->edPort, ui->edToken}, ui->edHost);
 }
 
 void ActivationDialog::takeLink(const QString& text)

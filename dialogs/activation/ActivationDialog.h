@@ -36,6 +36,9 @@ public Q_SLOTS:
     void slActivate();
     void slPasteEnrollDataFromClipboard();
 
+protected:
+    QWidget* startWidget() override;
+
 private:
     /// Fills all fields from the enrollment link in @p text, if there is one.
     void takeLink(const QString& text);

@@ -149,3 +149,8 @@ void OptionDialog::reject()
 {
     slClose();
 }
+
+QWidget* OptionDialog::startWidget()
+{
+    return ui->chkShowIcon;
+}

@@ -197,11 +197,8 @@ int RemoteConnectionDialog::remoteToolsValue() const
     return toolsSessionType;
 }
 
-void RemoteConnectionDialog::setRatio(float newRatio)
+void RemoteConnectionDialog::scaleBy(float newRatio)
 {
-    newRatio = usableRatio(newRatio);
-    if (newRatio == 1.0F)
-        return;
     ratio *= newRatio;
     storeAnchor();
     const QPoint topLeft = topLeftAtRatio(newRatio);

@@ -44,8 +44,6 @@ public:
     void addEmptyLogRow() override;
     int remoteToolsValue() const override;
 
-    /// Scales the panels that come later too.
-    void setRatio(float newRatio) override;
     /// Puts the window into the corner whenever it is shown.
     void setVisible(bool visible) override;
     /// Nothing: the sessions decide when the window goes.
@@ -68,6 +66,8 @@ public Q_SLOTS:
 
 protected:
     void setupWindow() override;
+    /// Scales the panels that come later too.
+    void scaleBy(float newRatio) override;
 
 private:
     TakeoverPanel* createPanel(const QString& sessionId);

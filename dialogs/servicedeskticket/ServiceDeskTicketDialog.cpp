@@ -210,6 +210,12 @@ bool ServiceDeskTicketDialog::validate()
     return updateSubmitButton();
 }
 
+QWidget* ServiceDeskTicketDialog::startWidget()
+{
+    const bool onlyDetailsEmpty = !ui->edSubject->text().isEmpty() && ui->txIssueDetails->document()->isEmpty();
+    return onlyDetailsEmpty ? static_cast<QWidget*>(ui->txIssueDetails) : ui->edSubject;
+}
+
 void ServiceDeskTicketDialog::showEvent(QShowEvent* event)
 {
     BaseDialog::showEvent(event);

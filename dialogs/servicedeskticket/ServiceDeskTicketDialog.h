@@ -53,6 +53,7 @@ public Q_SLOTS:
     bool validate();
 
 protected:
+    QWidget* startWidget() override;
     void showEvent(QShowEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
