@@ -16,6 +16,8 @@ target_compile_definitions(compile_settings INTERFACE
 if(MSVC)
     target_compile_options(compile_settings INTERFACE
         /W4 /permissive- /utf-8 $<$<BOOL:${GUI_WERROR}>:/WX>
+        # A dialog inherits show(), hide() and others from its base by dominance, on purpose.
+        /wd4250
         /sdl /guard:cf
         # What is shipped has symbols too, in an archive of their own.
         $<$<CONFIG:Release>:/Zi>)
@@ -29,11 +31,12 @@ else()
         -fstack-protector-strong
         # What is shipped has symbols too, in an archive of their own.
         $<$<CONFIG:Release>:-g>)
-    # MinGW links the library behind it by the same switch.
-    target_link_options(compile_settings INTERFACE -fstack-protector-strong)
     # Needs an optimising build.
     target_compile_definitions(compile_settings INTERFACE $<$<NOT:$<CONFIG:Debug>>:_FORTIFY_SOURCE=2>)
     if(WIN32)
+        # The stack protector and _FORTIFY_SOURCE need MinGW's libssp. Linked in, because -fstack-protector-strong as a
+        # linker's option would need its DLL, which no Windows machine has.
+        target_link_libraries(compile_settings INTERFACE -l:libssp.a)
         target_link_options(compile_settings INTERFACE
             LINKER:--dynamicbase,--nxcompat $<$<EQUAL:${CMAKE_SIZEOF_VOID_P},8>:LINKER:--high-entropy-va>)
     elseif(NOT APPLE)

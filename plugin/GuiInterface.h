@@ -43,9 +43,9 @@ class IZentPasswordDialog;
 ///   such slot, or when this very connection exists already. The connection ends with either object.
 ///
 /// Everything happens on the GUI thread, inside the host's event loop; a QApplication must exist before the plugin is
-/// loaded: without one the branding file is not found, the texts stay English, and the first get ends the process.
-/// Destroying the root object leaves dialogs that were never deleted alive. The order of the virtual functions is part
-/// of the binary contract; new operations come at the end.
+/// loaded. Without one **get** writes a message and returns null, the branding file is not read, and the texts stay
+/// English. Destroying the root object leaves dialogs that were never deleted alive. The order of the virtual functions
+/// is part of the binary contract; new operations come at the end.
 class GuiInterface {
 public:
     virtual ~GuiInterface() = default;

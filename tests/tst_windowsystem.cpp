@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QVBoxLayout>
+#include <QWindow>
 
 /// The dialogs among other windows, under a real window manager and with real keys and clicks.
 class WindowSystemTest : public GuiTest {
@@ -151,6 +152,12 @@ void WindowSystemTest::sessionWindowLeavesTheFocus()
     pressKeys(QStringLiteral("b"));
     pressKeys(QStringLiteral("space"));
     QTRY_COMPARE(host.edit.text(), QStringLiteral("ab "));
+    run(QStringLiteral("xdotool"), {QStringLiteral("windowminimize"), QString::number(window(session).winId())});
+    QTRY_VERIFY(window(session).isMinimized());
+    session->addRemoteControlSession(QStringLiteral("new"), QStringLiteral("user"), 1000, true);
+    QTRY_VERIFY(!window(session).isMinimized() && window(session).windowHandle()->isExposed());
+    pressKeys(QStringLiteral("c"));
+    QTRY_COMPARE(host.edit.text(), QStringLiteral("ab c"));
     QVERIFY(!window(session).isActiveWindow());
     QCOMPARE(takeEvents(), QStringList());
 }

@@ -1,5 +1,7 @@
 #include "ElidedLabel.h"
 
+#include "DisplayText.h"
+
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOption>
@@ -25,9 +27,8 @@ void ElidedLabel::paintEvent(QPaintEvent*)
         if (x() + nameEnd > textStart)
             area.setRight(qMin(area.right(), textStart - x()));
     }
-    // A line break would be a second line that nobody sees.
-    const QString line = QString(text()).replace(QLatin1Char('\n'), QLatin1Char(' '));
-    const QString visible = fontMetrics().elidedText(line, Qt::ElideMiddle, area.width());
-    style()->drawItemText(&painter, area, static_cast<int>(alignment()), palette(), isEnabled(), visible,
-                          foregroundRole());
+    const QString line = elidedWithVisibleControls(text(), fontMetrics(), Qt::ElideMiddle, area.width());
+    // Otherwise a right-to-left text would stand at the far end.
+    const Qt::Alignment place = QStyle::visualAlignment(layoutDirection(), alignment());
+    style()->drawItemText(&painter, area, static_cast<int>(place), palette(), isEnabled(), line, foregroundRole());
 }
