@@ -46,36 +46,31 @@ void GuideTest::keys_data()
 void GuideTest::keys()
 {
     QFETCH(QString, dialog);
-    // What the dialog does about one of them, in the words of the table.
-    const auto answer = [&](const QString& action) {
+    const Family& family = dialogFamily(dialog);
+    // What a new dialog does about one of them, in the words of the table.
+    const auto answer = [&](QString action) {
+        family.remove(gui(), QString());
+        settle();
         IBaseDialog* const target = get(dialog);
-        for (const char* required : {"password", "subject", "issueDetails"}) {
-            const Family& family = dialogFamily(dialog);
-            if (family.values(*target).contains(QLatin1String(required)))
-                family.set(*target, QLatin1String(required), QStringLiteral("x"));
-        }
+        const QJsonObject values = family.values(*target);
+        for (const QString& required :
+             {QStringLiteral("password"), QStringLiteral("subject"), QStringLiteral("issueDetails")})
+            if (values.contains(required))
+                family.set(*target, required, QStringLiteral("x"));
         showActive(target);
         takeEvents();
-        QString button = action;
         if (action == QStringLiteral("×")) {
-            const auto corner = window(target).findChildren<QAbstractButton*>(
-                QRegularExpression(QStringLiteral("^(btnClose|closeButton)$")));
-            button = corner.isEmpty() ? QString() : corner.first()->objectName();
+            const QRegularExpression names(QStringLiteral("^(btnClose|closeButton)$"));
+            const auto corner = window(target).findChildren<QAbstractButton*>(names);
+            if (corner.isEmpty())
+                return QStringLiteral("none");
+            action = corner.first()->objectName();
         }
-        QStringList results;
-        if (button.isEmpty()) {
-            results << QStringLiteral("none");
-        } else {
-            act(target, button);
-            results << takeEvents();
-            if (!window(target).isVisible())
-                results << QStringLiteral("hides");
-            if (results.isEmpty())
-                results << QStringLiteral("nothing");
-        }
-        dialogFamily(dialog).remove(gui(), QString());
-        settle();
-        return results.join(QStringLiteral(", "));
+        act(target, action);
+        QStringList results = takeEvents();
+        if (!window(target).isVisible())
+            results << QStringLiteral("hides");
+        return results.isEmpty() ? QStringLiteral("nothing") : results.join(QStringLiteral(", "));
     };
     QTEST(answer(QStringLiteral("Return")), "Return");
     QTEST(answer(QStringLiteral("Enter")), "Return");

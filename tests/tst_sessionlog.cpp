@@ -27,7 +27,6 @@ class SessionLogTest : public GuiTest {
 
 private Q_SLOTS:
     void init();
-    void unknownActions();
     void rolesAndColors();
     void badInput_data();
     void badInput();
@@ -84,19 +83,6 @@ QRect SessionLogTest::rowRect(int row) const
     return view->visualRect(view->model()->index(row, 0));
 }
 
-void SessionLogTest::unknownActions()
-{
-    const char* const rows[][2] = {{"file-upload", "Reply"},
-                                   {"file-copy", "reply"},
-                                   {"serv-list", "reply"},
-                                   {"File-Upload", "reply"},
-                                   {"", "reply"}};
-    for (const auto& row : rows) {
-        session->addLogEvent(noon, QString(), QLatin1String(row[0]), QStringLiteral("x"), QLatin1String(row[1]));
-        QCOMPARE(text(0), QString(noonText + QLatin1String(row[0]) + QStringLiteral(" x")));
-    }
-}
-
 void SessionLogTest::rolesAndColors()
 {
     const QString html = QStringLiteral("<p><span style=\" font-size:14px; color:#a9adb3;\">%1</span><span style=\" "
@@ -112,9 +98,11 @@ void SessionLogTest::rolesAndColors()
         session->addLogEvent(noon, object, object, object, QString());
         QCOMPARE(text(0, Qt::DisplayRole), html.arg(noonText, QLatin1String(row[1]), object));
     }
+    session->addLogEvent(noon, QString(), QStringLiteral("make-dir"), QString(), QStringLiteral("Reply"));
+    QCOMPARE(text(0), QString(noonText + QStringLiteral("make-dir ")));
     session->addEmptyLogRow();
     QCOMPARE(text(0, Qt::DisplayRole), html.arg(QStringLiteral(" "), QStringLiteral("#89C1FE"), QString()));
-    QCOMPARE(view->model()->rowCount(), 6);
+    QCOMPARE(view->model()->rowCount(), 7);
 }
 
 void SessionLogTest::badInput_data()
