@@ -23,8 +23,8 @@ void readFile(BrandingStrings& strings, const QString& path)
 {
     QFile file(path);
     const QByteArray content = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    // QSettings would deserialise @Variant(…), which can allocate any amount. With a second @ it is a text like any
-    // other, but only in a copy of the file.
+    // QSettings would deserialise @Variant(…), which can allocate any amount. A second @ makes it plain text; that is
+    // put into a copy, as the file belongs to the deployment.
     const QByteArray variant("@Variant(");
     QTemporaryFile copy;
     const bool harmless = !content.contains(variant);
@@ -61,7 +61,7 @@ void readDirectory(BrandingStrings& strings, const QString& directory)
         try {
             readFile(strings, path);
         } catch (const std::bad_alloc&) {
-            // Such an object behind escapes; what was read before it stays.
+            // A serialised object written with escapes is not recognised above; keep what was read before it.
         }
         qDebug("OEM strings loaded");
     } else {
