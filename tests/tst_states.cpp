@@ -170,7 +170,7 @@ QVector<QAccessibleInterface*> partsOf(QAccessibleInterface* root)
     return parts;
 }
 
-/// What is told of @p part, without what changes with time.
+/// What is told of @p part, without the numbers that depend on time and on what was shown before.
 QString toldOf(QAccessibleInterface* part)
 {
     QString told = QString::fromLatin1(qAccessibleRoleString(part->role()));
@@ -184,7 +184,7 @@ QString toldOf(QAccessibleInterface* part)
     tell(state.passwordEdit, " password");
     tell(state.defaultButton, " default");
     tell(state.focused, " focused");
-    return told.replace(QRegularExpression(QStringLiteral("\\d+ seconds")), QStringLiteral("N seconds"));
+    return told.replace(QRegularExpression(QStringLiteral("#\\d+|\\d+(?= seconds)")), QStringLiteral("N"));
 }
 
 /// Whether more of the text would be painted if its widget were larger.
