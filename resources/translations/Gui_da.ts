@@ -111,7 +111,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>You need to enroll Tavik by providing host, port and token from Device Enrollment email and pressing &quot;Enroll&quot; button.</source>
-        <translation>Du skal tilmelde Tavik ved at angive vært, port og token fra mailen om enhedstilmelding og klikke på knappen ”Tilmeld”.</translation>
+        <translation>Du skal tilmelde Tavik ved at angive vært, port og token fra mailen om&#xa0;enhedstilmelding og klikke på knappen ”Tilmeld”.</translation>
     </message>
     <message>
         <source>Tavik needs to be enrolled
@@ -851,7 +851,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Include device data (brand, model, serial number, logged on user, domain/workgroup)</source>
-        <translation>Medtag enhedsdata (mærke, model, serienummer, pålogget bruger, domæne/arbejdsgruppe)</translation>
+        <translation>Medtag enhedsdata (mærke, model, serienummer, pålogget bruger, domæne&#xa0;eller&#xa0;arbejdsgruppe)</translation>
     </message>
     <message>
         <source>Note: Company, Device Name and Owner are included by default.</source>

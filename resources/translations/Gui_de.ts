@@ -111,7 +111,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>You need to enroll Tavik by providing host, port and token from Device Enrollment email and pressing &quot;Enroll&quot; button.</source>
-        <translation>Registrieren Sie Tavik: Geben Sie Host, Port und Token aus der E‑Mail zur Geräteregistrierung ein und klicken Sie auf „Registrieren“.</translation>
+        <translation>Registrieren Sie Tavik: Geben Sie Host, Port und Token aus der E‑Mail zur&#xa0;Geräteregistrierung ein und klicken Sie auf „Registrieren“.</translation>
     </message>
     <message>
         <source>Tavik needs to be enrolled

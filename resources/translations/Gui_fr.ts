@@ -553,19 +553,19 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Scroll left</source>
-        <translation>Défiler vers la gauche</translation>
+        <translation>Faire défiler vers la gauche</translation>
     </message>
     <message>
         <source>Scroll up</source>
-        <translation>Défiler vers le haut</translation>
+        <translation>Faire défiler vers le haut</translation>
     </message>
     <message>
         <source>Scroll right</source>
-        <translation>Défiler vers la droite</translation>
+        <translation>Faire défiler vers la droite</translation>
     </message>
     <message>
         <source>Scroll down</source>
-        <translation>Défiler vers le bas</translation>
+        <translation>Faire défiler vers le bas</translation>
     </message>
 </context>
 <context>

@@ -830,7 +830,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Please fill in the fields below and describe details of your issue:</source>
-        <translation>아래 필드를 입력하고 문제를 자세히 설명하십시오:</translation>
+        <translation>아래 항목을 작성하고 문제를 자세히 설명하십시오:</translation>
     </message>
     <message>
         <source>Issue Summary</source>

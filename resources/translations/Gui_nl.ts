@@ -117,7 +117,7 @@ Name of the large picture for screen readers</extracomment>
         <source>Tavik needs to be enrolled
 in order to manage this device</source>
         <translation>Tavik moet worden ingeschreven
-om dit apparaat te beheren</translation>
+om dit apparaat te kunnen beheren</translation>
     </message>
     <message>
         <source>Enrollment Required</source>
@@ -275,7 +275,7 @@ woord:</translation>
     </message>
     <message>
         <source>Ostrel Custom Password</source>
-        <translation>Eigen Ostrel-wachtwoord</translation>
+        <translation>Aangepast Ostrel-wachtwoord</translation>
     </message>
     <message>
         <source>Domain:</source>
@@ -308,7 +308,7 @@ woord:</translation>
     <message>
         <source>Custom password</source>
         <extracomment>Name of a field for screen readers</extracomment>
-        <translation>Eigen wachtwoord</translation>
+        <translation>Aangepast wachtwoord</translation>
     </message>
 </context>
 <context>
@@ -919,12 +919,12 @@ Name of the large picture for screen readers</extracomment>
     <message>
         <source>You need to enter Zent Custom Password
 in order to continue</source>
-        <translation>U moet uw eigen Zent-wachtwoord invoeren
+        <translation>U moet het aangepaste Zent-wachtwoord invoeren
 om door te gaan</translation>
     </message>
     <message>
         <source>Please enter Zent Custom Password</source>
-        <translation>Voer uw eigen Zent-wachtwoord in</translation>
+        <translation>Voer het aangepaste Zent-wachtwoord in</translation>
     </message>
     <message>
         <source>Cancel</source>

@@ -774,7 +774,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Service stopped</source>
-        <translation>Serviço interrompido</translation>
+        <translation>Serviço parado</translation>
     </message>
     <message>
         <source>Service restarted</source>

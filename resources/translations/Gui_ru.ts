@@ -852,7 +852,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Include device data (brand, model, serial number, logged on user, domain/workgroup)</source>
-        <translation>Приложить данные об устройстве (марка, модель, серийный номер, текущий пользователь, домен/рабочая группа)</translation>
+        <translation>Приложить данные об устройстве (марка, модель, серийный номер, текущий&#xa0;пользователь, домен/рабочая группа)</translation>
     </message>
     <message>
         <source>Note: Company, Device Name and Owner are included by default.</source>

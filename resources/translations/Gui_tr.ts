@@ -205,7 +205,7 @@ Tavik’in kaydedilmesi gerekir</translation>
     <message>
         <source>Forgot username or password?</source>
         <extracomment>Text of a link</extracomment>
-        <translation>Oturum bilgilerini unuttunuz mu?</translation>
+        <translation>Oturum bilgilerinizi mi unuttunuz?</translation>
     </message>
     <message>
         <source>Login</source>
@@ -503,7 +503,7 @@ Name of the large picture for screen readers</extracomment>
     <name>QPlatformTheme</name>
     <message>
         <source>Discard</source>
-        <translation>Vazgeç</translation>
+        <translation>Değişikliklerden vazgeç</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -850,7 +850,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Include device data (brand, model, serial number, logged on user, domain/workgroup)</source>
-        <translation>Cihaz verilerini ekle (marka, model, seri numarası, oturum açmış kullanıcı, etki alanı/çalışma grubu)</translation>
+        <translation>Cihaz verilerini ekle (marka, model, seri numarası, oturum açmış kullanıcı, etki&#xa0;alanı&#xa0;veya&#xa0;çalışma&#xa0;grubu)</translation>
     </message>
     <message>
         <source>Note: Company, Device Name and Owner are included by default.</source>

@@ -27,11 +27,11 @@
     </message>
     <message>
         <source>Support phone: </source>
-        <translation>支持电话： </translation>
+        <translation>技术支持电话： </translation>
     </message>
     <message>
         <source>Support email: </source>
-        <translation>支持电子邮件： </translation>
+        <translation>技术支持电子邮件： </translation>
     </message>
     <message>
         <source>All rights reserved</source>
@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>Support web-site: </source>
-        <translation>支持网站： </translation>
+        <translation>技术支持网站： </translation>
     </message>
     <message>
         <source>About</source>
@@ -111,7 +111,8 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>You need to enroll Tavik by providing host, port and token from Device Enrollment email and pressing &quot;Enroll&quot; button.</source>
-        <translation>您需要注册 Tavik：请输入“设备注册”电子邮件中的主机、端口和令牌，然后单击“注册”按钮。</translation>
+        <translation>您需要注册 Tavik：请输入“设备注册”电子邮件中的主机、端口和令牌，
+然后单击“注册”按钮。</translation>
     </message>
     <message>
         <source>Tavik needs to be enrolled
@@ -850,7 +851,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Include device data (brand, model, serial number, logged on user, domain/workgroup)</source>
-        <translation>包括设备数据（品牌、型号、序列号、当前登录的用户、域/工作组）</translation>
+        <translation>包含设备数据（品牌、型号、序列号、当前登录的用户、域/工作组）</translation>
     </message>
     <message>
         <source>Note: Company, Device Name and Owner are included by default.</source>
