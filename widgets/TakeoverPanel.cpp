@@ -61,6 +61,7 @@ void TakeoverPanel::setStartTime(const QDateTime& time, bool force)
 
 void TakeoverPanel::setUsername(const QString& name)
 {
+    fullUsername = name;
     showUserName(username, name);
 }
 
@@ -79,6 +80,11 @@ void TakeoverPanel::setCloseButtonVisible(bool visible)
 void TakeoverPanel::setEndButtonVisible(bool visible)
 {
     btnEndRemoteControlSession->setVisible(visible);
+}
+
+QString TakeoverPanel::sessionName() const
+{
+    return withVisibleControls(fullUsername) + QLatin1String(", ") + sessionTypeLabel->text();
 }
 
 bool TakeoverPanel::isRunning() const

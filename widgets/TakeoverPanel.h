@@ -23,6 +23,8 @@ public:
     void setCloseButtonVisible(bool visible);
     void setEndButtonVisible(bool visible);
 
+    /// Whose session it is, and of which kind.
+    QString sessionName() const;
     /// Whether a start time is set.
     bool isRunning() const;
 
@@ -44,6 +46,7 @@ private:
     QPushButton* btnCloseRemoteControlPopup = nullptr;
     QPushButton* btnEndRemoteControlSession = nullptr;
     QDateTime startTime;
+    QString fullUsername;
 };
 
 /// Shows a remote person's name in @p label, elided to its maximum width; the full name is then the tool tip.

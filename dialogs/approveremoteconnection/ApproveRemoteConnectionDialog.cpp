@@ -1,5 +1,6 @@
 #include "ApproveRemoteConnectionDialog.h"
 
+#include "Announcement.h"
 #include "DisplayText.h"
 #include "ui_ApproveRemoteConnectionDialog.h"
 
@@ -164,11 +165,17 @@ void ApproveRemoteConnectionDialog::setRatio(float ratio)
 
 void ApproveRemoteConnectionDialog::setVisible(bool visible)
 {
+    const bool appears = visible && !isVisible();
     if (!visible)
         countdownTimer.stop();
-    else if (!isVisible())
+    if (appears)
         moveOffOtherPrompts();
     BaseDialog::setVisible(visible);
+    // Screen readers follow the focus, which the prompt does not take.
+    if (appears)
+        announce(this,
+                 withVisibleControls(requesterName) + titleSeparator + sessionText(sessionType) + QLatin1String(". ")
+                     + ui->messageTextEdit->toPlainText());
     if (!visible)
         return;
 

@@ -1,6 +1,8 @@
 #include "RemoteConnectionDialog.h"
 
 #include "ActivityKeys.h"
+#include "Announcement.h"
+#include "DisplayText.h"
 #include "ElapsedTime.h"
 #include "LogsListModel.h"
 #include "RichTextDelegate.h"
@@ -77,6 +79,7 @@ void RemoteConnectionDialog::addRemoteControlSession(const QString& sessionId, c
 {
     TakeoverPanel* const known = panels.value(sessionId);
     TakeoverPanel* const panel = known ? known : createPanel(sessionId);
+    const bool starts = !panel->isRunning();
     panel->setUsername(userName);
     panel->setEndButtonVisible(canEnd);
     panel->setCloseButtonVisible(!canEnd);
@@ -86,6 +89,8 @@ void RemoteConnectionDialog::addRemoteControlSession(const QString& sessionId, c
     updateClockTimer();
     setPartVisible(panel, true);
     showForSession();
+    if (starts)
+        announceStart(panel->sessionName());
 }
 
 void RemoteConnectionDialog::endRemoteControlSession(const QString& sessionId)
@@ -94,6 +99,8 @@ void RemoteConnectionDialog::endRemoteControlSession(const QString& sessionId)
     const QString id = sessionId;
     const QPointer<RemoteConnectionDialog> self(this);
     TakeoverPanel* const panel = panels.value(id);
+    if (panel && panel->isRunning())
+        announceEnd(panel->sessionName());
     const bool keep = keepPanels;
     if (!keep)
         removePanel(id);
@@ -125,9 +132,11 @@ void RemoteConnectionDialog::setKeepEndedSessionPanels(bool keep)
 void RemoteConnectionDialog::startRemoteToolsSession(const QString& sessionId, int sessionType, const QString& userName,
                                                      qint64 startMsecsSinceEpoch, bool canEnd)
 {
+    const bool starts = !isToolsSessionRunning() || sessionId != toolsSessionId;
     toolsSessionId = sessionId;
     toolsSessionType = sessionType;
     ui->toolSessionTypeLabel->setText(sessionType == 1 ? tr("File Transfer Session") : tr("Remote Tool Session"));
+    toolsSessionName = withVisibleControls(userName) + QLatin1String(", ") + ui->toolSessionTypeLabel->text();
     showUserName(ui->usernameFileTransfer, userName);
     if (!isToolsSessionRunning())
         ui->timeElapsedFileTransfer->setText(tr("00:00:00"));
@@ -138,6 +147,8 @@ void RemoteConnectionDialog::startRemoteToolsSession(const QString& sessionId, i
     updateClockTimer();
     setPartVisible(ui->fileTransportPanel, true);
     showForSession();
+    if (starts)
+        announceStart(toolsSessionName);
 }
 
 void RemoteConnectionDialog::endRemoteToolsSession(const QString& sessionId)
@@ -146,6 +157,8 @@ void RemoteConnectionDialog::endRemoteToolsSession(const QString& sessionId)
     const QPointer<RemoteConnectionDialog> self(this);
     // It ends first: when the host hears that the area has closed, it may start the next session.
     const bool wasRunning = isToolsSessionRunning();
+    if (wasRunning)
+        announceEnd(toolsSessionName);
     toolsStartTime = QDateTime();
     showToolsButtons(false, true);
     updateClockTimer();
@@ -334,6 +347,18 @@ void RemoteConnectionDialog::setToolsCloseEnabled(bool enabled)
     ui->btnCloseRemoteToolsPopup->setEnabled(enabled);
     // The button's own style sheet has one colour for both states.
     ui->btnCloseRemoteToolsPopup->graphicsEffect()->setEnabled(!enabled);
+}
+
+void RemoteConnectionDialog::announceStart(const QString& sessionName)
+{
+    //: Spoken by screen readers; %1 is a person's name and the kind of session
+    announce(this, tr("Session started: %1").arg(sessionName));
+}
+
+void RemoteConnectionDialog::announceEnd(const QString& sessionName)
+{
+    //: Spoken by screen readers; %1 is a person's name and the kind of session
+    announce(this, tr("Session ended: %1").arg(sessionName));
 }
 
 void RemoteConnectionDialog::showForSession()

@@ -76,6 +76,8 @@ private:
     void closeToolsPopup();
     void showToolsButtons(bool end, bool close);
     void setToolsCloseEnabled(bool enabled);
+    void announceStart(const QString& sessionName);
+    void announceEnd(const QString& sessionName);
     void showForSession();
     void hideIfEmpty();
     void updateClockTimer();
@@ -91,6 +93,8 @@ private:
     const std::unique_ptr<Ui::RemoteConnectionDialog> ui;
     QMap<QString, TakeoverPanel*> panels;
     QString toolsSessionId;
+    /// For screen readers: whose session it is, and of which kind.
+    QString toolsSessionName;
     /// Null while no tools session runs.
     QDateTime toolsStartTime;
     bool keepPanels = false;
