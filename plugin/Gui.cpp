@@ -49,13 +49,6 @@ QByteArray eventSignal(const QMetaObject& metaObject)
     }
     return QByteArray();
 }
-
-/// Installs @p translator, once also when an earlier root object has done so.
-void install(QTranslator* translator)
-{
-    QCoreApplication::removeTranslator(translator);
-    QCoreApplication::installTranslator(translator);
-}
 } // namespace
 
 Gui::Gui()
@@ -142,17 +135,15 @@ void Gui::assignStyleSheet(QDialog* dialog)
 
 void Gui::assignTranslations()
 {
-    // Both leave the application when the library is unloaded.
+    // Leaves the application when the library is unloaded.
     static QTranslator translator;
-    static QTranslator qtTranslator;
-    const QString prefix = QStringLiteral(":/translations/Gui_");
-    if (!loadTranslation(translator, prefix, QStringLiteral("en"))) {
+    if (!loadTranslation(translator, QStringLiteral(":/translations/Gui_"), QStringLiteral("en"))) {
         qDebug("GUI TRANSLATIONS NOT LOADED");
         return;
     }
-    install(&translator);
-    if (loadQtTranslation(qtTranslator, prefix))
-        install(&qtTranslator);
+    // Not twice when an earlier root object has installed it.
+    QCoreApplication::removeTranslator(&translator);
+    QCoreApplication::installTranslator(&translator);
 }
 
 // The families differ in a type.

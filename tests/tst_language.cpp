@@ -1,8 +1,10 @@
 #include "GuiTest.h"
 
 #include <QAbstractItemView>
+#include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QGroupBox>
 #include <QJsonDocument>
 #include <QLabel>
@@ -11,6 +13,8 @@
 #include <QScreen>
 #include <QTextDocument>
 #include <QTextEdit>
+#include <QTimer>
+#include <QTranslator>
 
 /// What the dialogs look like in one language on a screen of one resolution. The library chooses its language when it
 /// is loaded, and Qt the size of its fonts, so that each pair takes a program run of its own: LANGUAGE and QT_FONT_DPI
@@ -23,9 +27,26 @@ private Q_SLOTS:
     void textsFit_data();
     void textsFit();
     void logRowsFit();
+    void menusAreTranslated();
 };
 
 namespace {
+const QString untranslated = QStringLiteral("untranslated");
+
+/// Installed before the library is loaded, it is asked for what the library's translator does not know.
+class LastTranslator final : public QTranslator {
+public:
+    QString translate(const char* context, const char* source, const char* /*comment*/, int /*n*/) const override
+    {
+        // The sign between the keys of a shortcut is the same everywhere.
+        return *context != 'Q' || qstrcmp(source, "+") == 0 ? QString() : untranslated;
+    }
+    bool isEmpty() const override
+    {
+        return false;
+    }
+};
+
 /// The property that holds the text which the library puts into @p widget; null if it puts none.
 const char* textProperty(const QWidget* widget)
 {
@@ -190,12 +211,39 @@ void LanguageTest::logRowsFit()
     }
 }
 
+void LanguageTest::menusAreTranslated()
+{
+    QStringList texts;
+    for (const Family& family : dialogFamilies()) {
+        IBaseDialog* dialog = get(family.name);
+        dialog->show();
+        for (QWidget* widget : window(dialog).findChildren<QWidget*>()) {
+            widget->setEnabled(true);
+            QTimer::singleShot(0, this, [&texts] {
+                QWidget* const menu = QApplication::activePopupWidget();
+                if (!menu)
+                    return;
+                for (const QAction* action : menu->actions())
+                    texts << action->text();
+                menu->close();
+            });
+            QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(5, 5), widget->mapToGlobal(QPoint(5, 5)));
+            QCoreApplication::sendEvent(widget, &event);
+            settle();
+        }
+    }
+    QVERIFY2(!texts.isEmpty(), "no menu was shown");
+    QVERIFY2(texts.filter(untranslated).isEmpty(), qPrintable(texts.join(QLatin1Char('\n'))));
+}
+
 int main(int argc, char** argv)
 {
     const QByteArray language = qgetenv("LANGUAGE");
     prepareTestEnvironment();
     qputenv("LANGUAGE", language);
     QApplication application(argc, argv);
+    LastTranslator lastTranslator;
+    QCoreApplication::installTranslator(&lastTranslator);
     LanguageTest test;
     return runTest(test, argc, argv);
 }

@@ -1,8 +1,6 @@
 #include "GuiTest.h"
 
 #include <QAccessible>
-#include <QDir>
-#include <QLibraryInfo>
 #include <QLineEdit>
 #include <QLoggingCategory>
 #include <QPluginLoader>
@@ -67,9 +65,6 @@ void ReloadTest::loadsAndUnloads()
 {
     QFETCH(int, roots);
     QFETCH(bool, withDialogs);
-    const QDir catalogues(QLibraryInfo::location(QLibraryInfo::TranslationsPath));
-    const bool qtSpeaksGerman = catalogues.exists(QStringLiteral("qtbase_de.qm"));
-    const QString undo = qtSpeaksGerman ? QStringLiteral("&Rückgängig") : QStringLiteral("&Undo");
     constexpr int rounds = hasSanitizer ? 200 : 1000;
     size_t early = 0;
     for (int round = 0; round < rounds; ++round) {
@@ -83,7 +78,7 @@ void ReloadTest::loadsAndUnloads()
             QObject* root = loader.instance();
             auto* gui = qobject_cast<GuiInterface*>(root);
             QVERIFY2(gui, qPrintable(loader.errorString()));
-            QCOMPARE(traces(), QStringLiteral("Abbrechen %1 + + + + +").arg(undo));
+            QCOMPARE(traces(), QStringLiteral("Abbrechen &Rückgängig + + + + +"));
             if (withDialogs)
                 useDialog(*gui, dialogFamilies()[(roots * round + i) % dialogFamilies().size()]);
             // The loader makes a new one where the host has deleted its root object.

@@ -20,21 +20,29 @@ struct Action {
 // clang-format off
 constexpr Action actions[] = {
     {"file-upload",
+     //: Upload: from the technician to this computer
      {QT_TRANSLATE_NOOP("RemoteConnectionDialog", "File uploaded"),
+      //: Upload: from the technician to this computer
       QT_TRANSLATE_NOOP("RemoteConnectionDialog", "Upload aborted"),
+      //: Upload: from the technician to this computer
       QT_TRANSLATE_NOOP("RemoteConnectionDialog", "Upload cancelled"),
       ""}},
     {"file-download",
+     //: Download: from this computer to the technician
      {QT_TRANSLATE_NOOP("RemoteConnectionDialog", "File downloaded"),
+      //: Download: from this computer to the technician
       QT_TRANSLATE_NOOP("RemoteConnectionDialog", "Download aborted"),
+      //: Download: from this computer to the technician
       QT_TRANSLATE_NOOP("RemoteConnectionDialog", "Download cancelled"),
       ""}},
     {"dir-upload",
+     //: Upload: from the technician to this computer
      {QT_TRANSLATE_NOOP("RemoteConnectionDialog", "Folder uploaded"),
       QT_TRANSLATE_NOOP("RemoteConnectionDialog", "Upload aborted"),
       QT_TRANSLATE_NOOP("RemoteConnectionDialog", "Upload cancelled"),
       ""}},
     {"dir-download",
+     //: Download: from this computer to the technician
      {QT_TRANSLATE_NOOP("RemoteConnectionDialog", "Folder downloaded"),
       QT_TRANSLATE_NOOP("RemoteConnectionDialog", "Download aborted"),
       QT_TRANSLATE_NOOP("RemoteConnectionDialog", "Download cancelled"),

@@ -47,6 +47,8 @@ TakeoverPanel::TakeoverPanel(QWidget* parent) : QFrame(parent)
     username->setText(text(QT_TRANSLATE_NOOP("RemoteConnectionDialog", "Username")));
     timeElapsed->setText(text(QT_TRANSLATE_NOOP("RemoteConnectionDialog", "00:00:00")));
     btnEndRemoteControlSession->setText(text(QT_TRANSLATE_NOOP("RemoteConnectionDialog", "End session")));
+    btnEndRemoteControlSession->setAccessibleName(
+        QCoreApplication::translate("RemoteConnectionDialog", "End session", "in full"));
     btnCloseRemoteControlPopup->setText(text(QT_TRANSLATE_NOOP("RemoteConnectionDialog", "Close")));
 
     connect(btnEndRemoteControlSession, &QPushButton::clicked, this, [this] { Q_EMIT endRemoteControlSession(); });

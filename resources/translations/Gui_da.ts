@@ -166,13 +166,13 @@ for at denne enhed kan administreres</translation>
     </message>
     <message>
         <source>Allow</source>
-        <extracomment>Button: lets the remote person in</extracomment>
+        <extracomment>Button: lets the remote person in. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
         <translation>Tillad</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <extracomment>Button: refuses the remote person</extracomment>
-        <translation>Annuller</translation>
+        <extracomment>Button: refuses the remote person, the opposite of &quot;Allow&quot;. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
+        <translation>Afvis</translation>
     </message>
     <message>
         <source>Remote tools</source>
@@ -201,7 +201,7 @@ for at denne enhed kan administreres</translation>
     <name>AuthorizationDialog</name>
     <message>
         <source>Brisel Tavik Login</source>
-        <translation>Brisel Tavik – Log på</translation>
+        <translation>Brisel Tavik – Login</translation>
     </message>
     <message>
         <source>Forgot username or password?</source>
@@ -219,11 +219,13 @@ for at denne enhed kan administreres</translation>
     </message>
     <message>
         <source>You need to login with your Brisel Tavik online account in order to continue</source>
-        <translation>Du skal logge på med din Brisel Tavik-onlinekonto for at fortsætte</translation>
+        <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
+        <translation>Du skal logge på med din Brisel&#xa0;Tavik‑onlinekonto for&#xa0;at&#xa0;fortsætte</translation>
     </message>
     <message>
         <source>Please login with your Brisel Tavik</source>
-        <translation>Log på med din Brisel Tavik-konto</translation>
+        <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
+        <translation>Log på med din Brisel&#xa0;Tavik-konto</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -260,7 +262,7 @@ for at denne enhed kan administreres</translation>
     </message>
     <message>
         <source>Please enter your credentials in order to continue</source>
-        <translation>Indtast dine legitimationsoplysninger for at fortsætte</translation>
+        <translation>Indtast dine loginoplysninger for at fortsætte</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -300,7 +302,7 @@ for at denne enhed kan administreres</translation>
     <message>
         <source>Administrator password</source>
         <extracomment>Name of a field for screen readers</extracomment>
-        <translation>Administratorens kodeord</translation>
+        <translation>Administratorkodeord</translation>
     </message>
     <message>
         <source>Custom password</source>
@@ -391,7 +393,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Automatically download and install program updates</source>
-        <translation>Hent og installer automatisk programopdateringer</translation>
+        <translation>Download og installer automatisk programopdateringer</translation>
     </message>
     <message>
         <source>Deactivate ZENT Agent...</source>
@@ -444,12 +446,177 @@ Name of the large picture for screen readers</extracomment>
     <message>
         <source>Progress</source>
         <extracomment>Name for screen readers of the turning spinner and of the number in it</extracomment>
-        <translation>Status</translation>
+        <translation>Forløb</translation>
     </message>
     <message>
         <source>Please wait</source>
         <extracomment>Description of the turning spinner for screen readers</extracomment>
         <translation>Vent venligst</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>&amp;Markér alt</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>Et trin o&amp;p</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>Et trin &amp;ned</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Fortryd</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Annuller Fortryd</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Klip</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>K&amp;opiér</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Sæt ind</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Slet</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Markér alt</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Discard</source>
+        <translation>Kassér</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuller</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Rul hertil</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Venstre kant</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Øverst</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Højre kant</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Nederst</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>Side til venstre</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Side op</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>Side til højre</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Side ned</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Rul til venstre</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Rul op</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Rul til højre</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Rul ned</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Skift</translation>
+    </message>
+</context>
+<context>
+    <name>QUnicodeControlCharacterMenu</name>
+    <message>
+        <source>Insert Unicode control character</source>
+        <translation>Indsæt Unicode-kontroltegn</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Fortryd</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Annuller Fortryd</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Klip</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>K&amp;opiér</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Sæt ind</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Slet</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Markér alt</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>Kopiér &amp;linkadresse</translation>
     </message>
 </context>
 <context>
@@ -521,7 +688,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>End session</source>
-        <extracomment>Button: stops the remote tools session</extracomment>
+        <extracomment>Button: stops the session. May be shortened</extracomment>
         <translation>Afslut session</translation>
     </message>
     <message>
@@ -539,35 +706,43 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>File uploaded</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>Fil uploadet</translation>
     </message>
     <message>
         <source>Upload aborted</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>Upload afbrudt</translation>
     </message>
     <message>
         <source>Upload cancelled</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>Upload annulleret</translation>
     </message>
     <message>
         <source>File downloaded</source>
-        <translation>Fil hentet</translation>
+        <extracomment>Download: from this computer to the technician</extracomment>
+        <translation>Fil downloadet</translation>
     </message>
     <message>
         <source>Download aborted</source>
-        <translation>Hentning afbrudt</translation>
+        <extracomment>Download: from this computer to the technician</extracomment>
+        <translation>Download afbrudt</translation>
     </message>
     <message>
         <source>Download cancelled</source>
-        <translation>Hentning annulleret</translation>
+        <extracomment>Download: from this computer to the technician</extracomment>
+        <translation>Download annulleret</translation>
     </message>
     <message>
         <source>Folder uploaded</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>Mappe uploadet</translation>
     </message>
     <message>
         <source>Folder downloaded</source>
-        <translation>Mappe hentet</translation>
+        <extracomment>Download: from this computer to the technician</extracomment>
+        <translation>Mappe downloadet</translation>
     </message>
     <message>
         <source>File deleted</source>
@@ -635,6 +810,12 @@ Name of the large picture for screen readers</extracomment>
         <source>Activity log</source>
         <extracomment>What is done on this computer during the session</extracomment>
         <translation>Aktivitetslog</translation>
+    </message>
+    <message>
+        <source>End session</source>
+        <comment>in full</comment>
+        <extracomment>Name of the button for screen readers, never shortened</extracomment>
+        <translation>Afslut session</translation>
     </message>
 </context>
 <context>
@@ -724,7 +905,7 @@ Name of the large picture for screen readers</extracomment>
     <name>ZentPasswordDialog</name>
     <message>
         <source>Brisel Tavik Login</source>
-        <translation>Brisel Tavik – Log på</translation>
+        <translation>Brisel Tavik – Login</translation>
     </message>
     <message>
         <source>Continue</source>

@@ -111,13 +111,13 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>You need to enroll Tavik by providing host, port and token from Device Enrollment email and pressing &quot;Enroll&quot; button.</source>
-        <translation>Registrieren Sie Tavik: Geben Sie Host, Port und Token aus der E-Mail zur Geräteregistrierung ein und klicken Sie auf „Registrieren“.</translation>
+        <translation>Registrieren Sie Tavik: Geben Sie Host, Port und Token aus der E‑Mail zur Geräteregistrierung ein und klicken Sie auf „Registrieren“.</translation>
     </message>
     <message>
         <source>Tavik needs to be enrolled
 in order to manage this device</source>
-        <translation>Tavik muss registriert werden,
-um dieses Gerät zu verwalten</translation>
+        <translation>Zur Verwaltung dieses Geräts
+muss Tavik registriert werden</translation>
     </message>
     <message>
         <source>Enrollment Required</source>
@@ -149,7 +149,7 @@ um dieses Gerät zu verwalten</translation>
     </message>
     <message>
         <source>Please set up host, port and token from Device Enrollment email.</source>
-        <translation>Bitte geben Sie Host, Port und Token aus der E-Mail zur Geräteregistrierung ein.</translation>
+        <translation>Bitte geben Sie Host, Port und Token aus&#xa0;der&#xa0;E‑Mail&#xa0;zur&#xa0;Geräteregistrierung&#xa0;ein.</translation>
     </message>
     <message>
         <source>Close</source>
@@ -166,13 +166,13 @@ um dieses Gerät zu verwalten</translation>
     </message>
     <message>
         <source>Allow</source>
-        <extracomment>Button: lets the remote person in</extracomment>
+        <extracomment>Button: lets the remote person in. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
         <translation>Zulassen</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <extracomment>Button: refuses the remote person</extracomment>
-        <translation>Abbrechen</translation>
+        <extracomment>Button: refuses the remote person, the opposite of &quot;Allow&quot;. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
+        <translation>Ablehnen</translation>
     </message>
     <message>
         <source>Remote tools</source>
@@ -187,7 +187,7 @@ um dieses Gerät zu verwalten</translation>
     <message>
         <source>Message</source>
         <extracomment>Name for screen readers</extracomment>
-        <translation>Meldung</translation>
+        <translation>Nachricht</translation>
     </message>
     <message numerus="yes">
         <source>%n second(s) left to answer</source>
@@ -201,7 +201,7 @@ um dieses Gerät zu verwalten</translation>
     <name>AuthorizationDialog</name>
     <message>
         <source>Brisel Tavik Login</source>
-        <translation>Brisel Tavik – Anmelden</translation>
+        <translation>Brisel Tavik – Anmeldung</translation>
     </message>
     <message>
         <source>Forgot username or password?</source>
@@ -219,11 +219,13 @@ um dieses Gerät zu verwalten</translation>
     </message>
     <message>
         <source>You need to login with your Brisel Tavik online account in order to continue</source>
-        <translation>Melden Sie sich mit Ihrem Brisel Tavik-Onlinekonto an, um fortzufahren</translation>
+        <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
+        <translation>Melden Sie sich mit Ihrem Brisel&#xa0;Tavik‑Onlinekonto an, um&#xa0;fortzufahren</translation>
     </message>
     <message>
         <source>Please login with your Brisel Tavik</source>
-        <translation>Bitte melden Sie sich mit Ihrem Brisel Tavik-Konto an</translation>
+        <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
+        <translation>Bitte melden Sie sich mit Ihrem Brisel&#xa0;Tavik-Konto an</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -260,7 +262,7 @@ um dieses Gerät zu verwalten</translation>
     </message>
     <message>
         <source>Please enter your credentials in order to continue</source>
-        <translation>Geben Sie Ihre Anmeldedaten ein, um fortzufahren</translation>
+        <translation>Bitte geben Sie Ihre Anmeldedaten ein, um fortzufahren</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -453,6 +455,171 @@ Name of the large picture for screen readers</extracomment>
     </message>
 </context>
 <context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>A&amp;lles auswählen</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>Wert er&amp;höhen</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>Wert &amp;verringern</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Ausschneiden</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Einfügen</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alles auswählen</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Discard</source>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Hierhin scrollen</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Linker Rand</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Anfang</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Rechter Rand</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>Seite nach links</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Seite nach oben</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>Seite nach rechts</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Seite nach unten</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Nach links scrollen</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Nach oben scrollen</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Nach rechts scrollen</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Nach unten scrollen</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Strg</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Umschalt</translation>
+    </message>
+</context>
+<context>
+    <name>QUnicodeControlCharacterMenu</name>
+    <message>
+        <source>Insert Unicode control character</source>
+        <translation>Unicode-Steuerzeichen einfügen</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Ausschneiden</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Einfügen</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alles auswählen</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>&amp;Linkadresse kopieren</translation>
+    </message>
+</context>
+<context>
     <name>RebootDialog</name>
     <message>
         <source>Tavik Reboot</source>
@@ -489,7 +656,7 @@ Name of the large picture for screen readers</extracomment>
     <message>
         <source>Remind me in</source>
         <extracomment>Stands before a list of periods such as &quot;10 minutes&quot;</extracomment>
-        <translation>Erneut erinnern in</translation>
+        <translation>Erinnern in</translation>
     </message>
     <message>
         <source>Shutdown now</source>
@@ -505,7 +672,7 @@ Name of the large picture for screen readers</extracomment>
     <name>RemoteConnectionDialog</name>
     <message>
         <source>Remote Control by Corvane</source>
-        <translation>Remotesteuerung von Corvane</translation>
+        <translation>Remotesteuerung durch Corvane</translation>
     </message>
     <message>
         <source>Remote Tool Session</source>
@@ -521,7 +688,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>End session</source>
-        <extracomment>Button: stops the remote tools session</extracomment>
+        <extracomment>Button: stops the session. May be shortened</extracomment>
         <translation>Sitzung beenden</translation>
     </message>
     <message>
@@ -539,34 +706,42 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>File uploaded</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>Datei hochgeladen</translation>
     </message>
     <message>
         <source>Upload aborted</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>Upload unterbrochen</translation>
     </message>
     <message>
         <source>Upload cancelled</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>Upload abgebrochen</translation>
     </message>
     <message>
         <source>File downloaded</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>Datei heruntergeladen</translation>
     </message>
     <message>
         <source>Download aborted</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>Download unterbrochen</translation>
     </message>
     <message>
         <source>Download cancelled</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>Download abgebrochen</translation>
     </message>
     <message>
         <source>Folder uploaded</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>Ordner hochgeladen</translation>
     </message>
     <message>
         <source>Folder downloaded</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>Ordner heruntergeladen</translation>
     </message>
     <message>
@@ -635,6 +810,12 @@ Name of the large picture for screen readers</extracomment>
         <source>Activity log</source>
         <extracomment>What is done on this computer during the session</extracomment>
         <translation>Aktivitätsprotokoll</translation>
+    </message>
+    <message>
+        <source>End session</source>
+        <comment>in full</comment>
+        <extracomment>Name of the button for screen readers, never shortened</extracomment>
+        <translation>Sitzung beenden</translation>
     </message>
 </context>
 <context>
@@ -724,7 +905,7 @@ Name of the large picture for screen readers</extracomment>
     <name>ZentPasswordDialog</name>
     <message>
         <source>Brisel Tavik Login</source>
-        <translation>Brisel Tavik – Anmelden</translation>
+        <translation>Brisel Tavik – Anmeldung</translation>
     </message>
     <message>
         <source>Continue</source>

@@ -166,12 +166,12 @@ in order to manage this device</translation>
     </message>
     <message>
         <source>Allow</source>
-        <extracomment>Button: lets the remote person in</extracomment>
+        <extracomment>Button: lets the remote person in. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
         <translation>Allow</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <extracomment>Button: refuses the remote person</extracomment>
+        <extracomment>Button: refuses the remote person, the opposite of &quot;Allow&quot;. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
         <translation>Cancel</translation>
     </message>
     <message>
@@ -219,10 +219,12 @@ in order to manage this device</translation>
     </message>
     <message>
         <source>You need to login with your Brisel Tavik online account in order to continue</source>
+        <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
         <translation>You need to login with your Brisel Tavik online account in order to continue</translation>
     </message>
     <message>
         <source>Please login with your Brisel Tavik</source>
+        <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
         <translation>Please login with your Brisel Tavik</translation>
     </message>
     <message>
@@ -453,6 +455,171 @@ Name of the large picture for screen readers</extracomment>
     </message>
 </context>
 <context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>&amp;Select All</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>&amp;Step up</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>Step &amp;down</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Undo</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Redo</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Cu&amp;t</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copy</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Paste</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Select All</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Discard</source>
+        <translation>Discard</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Scroll here</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Left edge</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Top</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Right edge</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Bottom</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>Page left</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Page up</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>Page right</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Page down</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Scroll left</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Scroll up</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Scroll right</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Scroll down</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+</context>
+<context>
+    <name>QUnicodeControlCharacterMenu</name>
+    <message>
+        <source>Insert Unicode control character</source>
+        <translation>Insert Unicode control character</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Undo</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Redo</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Cu&amp;t</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copy</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Paste</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Select All</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>Copy &amp;Link Location</translation>
+    </message>
+</context>
+<context>
     <name>RebootDialog</name>
     <message>
         <source>Tavik Reboot</source>
@@ -521,7 +688,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>End session</source>
-        <extracomment>Button: stops the remote tools session</extracomment>
+        <extracomment>Button: stops the session. May be shortened</extracomment>
         <translation>End session</translation>
     </message>
     <message>
@@ -539,34 +706,42 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>File uploaded</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>File uploaded</translation>
     </message>
     <message>
         <source>Upload aborted</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>Upload aborted</translation>
     </message>
     <message>
         <source>Upload cancelled</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>Upload cancelled</translation>
     </message>
     <message>
         <source>File downloaded</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>File downloaded</translation>
     </message>
     <message>
         <source>Download aborted</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>Download aborted</translation>
     </message>
     <message>
         <source>Download cancelled</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>Download cancelled</translation>
     </message>
     <message>
         <source>Folder uploaded</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>Folder uploaded</translation>
     </message>
     <message>
         <source>Folder downloaded</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>Folder downloaded</translation>
     </message>
     <message>
@@ -635,6 +810,12 @@ Name of the large picture for screen readers</extracomment>
         <source>Activity log</source>
         <extracomment>What is done on this computer during the session</extracomment>
         <translation>Activity log</translation>
+    </message>
+    <message>
+        <source>End session</source>
+        <comment>in full</comment>
+        <extracomment>Name of the button for screen readers, never shortened</extracomment>
+        <translation>End session</translation>
     </message>
 </context>
 <context>

@@ -82,7 +82,7 @@
         <extracomment>Stands in for the message until the host sets one
 ----------
 Name of the large picture for screen readers</extracomment>
-        <translation>Operación correcta</translation>
+        <translation>Operación completada</translation>
     </message>
     <message>
         <source>OK</source>
@@ -149,7 +149,7 @@ para administrar este dispositivo</translation>
     </message>
     <message>
         <source>Please set up host, port and token from Device Enrollment email.</source>
-        <translation>Introduzca el host, el puerto y el token del correo de inscripción del dispositivo.</translation>
+        <translation>Introduzca el host, el puerto y el token del&#xa0;correo&#xa0;de&#xa0;inscripción&#xa0;del&#xa0;dispositivo.</translation>
     </message>
     <message>
         <source>Close</source>
@@ -166,13 +166,13 @@ para administrar este dispositivo</translation>
     </message>
     <message>
         <source>Allow</source>
-        <extracomment>Button: lets the remote person in</extracomment>
+        <extracomment>Button: lets the remote person in. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
         <translation>Permitir</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <extracomment>Button: refuses the remote person</extracomment>
-        <translation>Cancelar</translation>
+        <extracomment>Button: refuses the remote person, the opposite of &quot;Allow&quot;. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
+        <translation>Rechazar</translation>
     </message>
     <message>
         <source>Remote tools</source>
@@ -201,12 +201,12 @@ para administrar este dispositivo</translation>
     <name>AuthorizationDialog</name>
     <message>
         <source>Brisel Tavik Login</source>
-        <translation>Brisel Tavik – Iniciar sesión</translation>
+        <translation>Brisel Tavik – Inicio de sesión</translation>
     </message>
     <message>
         <source>Forgot username or password?</source>
         <extracomment>Text of a link</extracomment>
-        <translation>¿Olvidó el usuario o la clave?</translation>
+        <translation>¿Olvidó sus datos de acceso?</translation>
     </message>
     <message>
         <source>Login</source>
@@ -219,11 +219,13 @@ para administrar este dispositivo</translation>
     </message>
     <message>
         <source>You need to login with your Brisel Tavik online account in order to continue</source>
-        <translation>Para continuar, inicie sesión con su cuenta en línea de Brisel Tavik</translation>
+        <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
+        <translation>Para continuar, inicie sesión con su cuenta&#xa0;en&#xa0;línea&#xa0;de&#xa0;Brisel&#xa0;Tavik</translation>
     </message>
     <message>
         <source>Please login with your Brisel Tavik</source>
-        <translation>Inicie sesión con su cuenta de Brisel Tavik</translation>
+        <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
+        <translation>Inicie sesión con su cuenta de Brisel&#xa0;Tavik</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -231,7 +233,8 @@ para administrar este dispositivo</translation>
     </message>
     <message>
         <source>Password:</source>
-        <translation>Clave:</translation>
+        <translation>Contra-
+seña:</translation>
     </message>
     <message>
         <source>Username:</source>
@@ -245,7 +248,7 @@ para administrar este dispositivo</translation>
     <message>
         <source>Password</source>
         <extracomment>Name of a field for screen readers</extracomment>
-        <translation>Clave</translation>
+        <translation>Contraseña</translation>
     </message>
 </context>
 <context>
@@ -272,7 +275,7 @@ para administrar este dispositivo</translation>
     </message>
     <message>
         <source>Ostrel Custom Password</source>
-        <translation>Clave personalizada de Ostrel</translation>
+        <translation>Contraseña personalizada de Ostrel</translation>
     </message>
     <message>
         <source>Domain:</source>
@@ -286,7 +289,7 @@ para administrar este dispositivo</translation>
     </message>
     <message>
         <source>Password:</source>
-        <translation>Clave:</translation>
+        <translation>Contraseña:</translation>
     </message>
     <message>
         <source>OK</source>
@@ -295,17 +298,17 @@ para administrar este dispositivo</translation>
     <message>
         <source>Enter password</source>
         <extracomment>Kind of dialog, at the right of the caption</extracomment>
-        <translation>Introducir clave</translation>
+        <translation>Introducir contraseña</translation>
     </message>
     <message>
         <source>Administrator password</source>
         <extracomment>Name of a field for screen readers</extracomment>
-        <translation>Clave del administrador</translation>
+        <translation>Contraseña de administrador</translation>
     </message>
     <message>
         <source>Custom password</source>
         <extracomment>Name of a field for screen readers</extracomment>
-        <translation>Clave personalizada</translation>
+        <translation>Contraseña personalizada</translation>
     </message>
 </context>
 <context>
@@ -383,7 +386,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Password:</source>
-        <translation>Clave:</translation>
+        <translation>Contraseña:</translation>
     </message>
     <message>
         <source>Show tray icon on the taskbar</source>
@@ -450,6 +453,171 @@ Name of the large picture for screen readers</extracomment>
         <source>Please wait</source>
         <extracomment>Description of the turning spinner for screen readers</extracomment>
         <translation>Espere</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>&amp;Seleccionar todo</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>&amp;Aumentar</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>Dis&amp;minuir</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rehacer</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Cor&amp;tar</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Pegar</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Seleccionar todo</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Discard</source>
+        <translation>Descartar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Desplazar hasta aquí</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Borde izquierdo</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Principio</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Borde derecho</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Final</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>Página a la izquierda</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Página arriba</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>Página a la derecha</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Página abajo</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Desplazar a la izquierda</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Desplazar hacia arriba</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Desplazar a la derecha</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Desplazar hacia abajo</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Mayús</translation>
+    </message>
+</context>
+<context>
+    <name>QUnicodeControlCharacterMenu</name>
+    <message>
+        <source>Insert Unicode control character</source>
+        <translation>Insertar carácter de control Unicode</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rehacer</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Cor&amp;tar</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Pegar</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Seleccionar todo</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>Copiar la dirección del &amp;enlace</translation>
     </message>
 </context>
 <context>
@@ -521,7 +689,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>End session</source>
-        <extracomment>Button: stops the remote tools session</extracomment>
+        <extracomment>Button: stops the session. May be shortened</extracomment>
         <translation>Finalizar sesión</translation>
     </message>
     <message>
@@ -539,34 +707,42 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>File uploaded</source>
-        <translation>Archivo cargado</translation>
+        <extracomment>Upload: from the technician to this computer</extracomment>
+        <translation>Archivo subido</translation>
     </message>
     <message>
         <source>Upload aborted</source>
-        <translation>Carga interrumpida</translation>
+        <extracomment>Upload: from the technician to this computer</extracomment>
+        <translation>Subida interrumpida</translation>
     </message>
     <message>
         <source>Upload cancelled</source>
-        <translation>Carga cancelada</translation>
+        <extracomment>Upload: from the technician to this computer</extracomment>
+        <translation>Subida cancelada</translation>
     </message>
     <message>
         <source>File downloaded</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>Archivo descargado</translation>
     </message>
     <message>
         <source>Download aborted</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>Descarga interrumpida</translation>
     </message>
     <message>
         <source>Download cancelled</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>Descarga cancelada</translation>
     </message>
     <message>
         <source>Folder uploaded</source>
-        <translation>Carpeta cargada</translation>
+        <extracomment>Upload: from the technician to this computer</extracomment>
+        <translation>Carpeta subida</translation>
     </message>
     <message>
         <source>Folder downloaded</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>Carpeta descargada</translation>
     </message>
     <message>
@@ -607,7 +783,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Service paused</source>
-        <translation>Servicio en pausa</translation>
+        <translation>Servicio pausado</translation>
     </message>
     <message>
         <source>Service resumed</source>
@@ -635,6 +811,12 @@ Name of the large picture for screen readers</extracomment>
         <source>Activity log</source>
         <extracomment>What is done on this computer during the session</extracomment>
         <translation>Registro de actividad</translation>
+    </message>
+    <message>
+        <source>End session</source>
+        <comment>in full</comment>
+        <extracomment>Name of the button for screen readers, never shortened</extracomment>
+        <translation>Finalizar sesión</translation>
     </message>
 </context>
 <context>
@@ -674,7 +856,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Note: Company, Device Name and Owner are included by default.</source>
-        <translation>Nota: la empresa, el nombre del dispositivo y el propietario se incluyen de forma predeterminada.</translation>
+        <translation>Nota: la empresa, el nombre del dispositivo y el propietario se incluyen de&#xa0;forma&#xa0;predeterminada.</translation>
     </message>
     <message>
         <source>Submit</source>
@@ -724,7 +906,7 @@ Name of the large picture for screen readers</extracomment>
     <name>ZentPasswordDialog</name>
     <message>
         <source>Brisel Tavik Login</source>
-        <translation>Brisel Tavik – Iniciar sesión</translation>
+        <translation>Brisel Tavik – Inicio de sesión</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -737,12 +919,12 @@ Name of the large picture for screen readers</extracomment>
     <message>
         <source>You need to enter Zent Custom Password
 in order to continue</source>
-        <translation>Debe introducir la clave personalizada de Zent
-para continuar</translation>
+        <translation>Debe introducir la contraseña personalizada
+de Zent para continuar</translation>
     </message>
     <message>
         <source>Please enter Zent Custom Password</source>
-        <translation>Introduzca la clave personalizada de Zent</translation>
+        <translation>Introduzca la contraseña personalizada de Zent</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -750,17 +932,18 @@ para continuar</translation>
     </message>
     <message>
         <source>Password:</source>
-        <translation>Clave:</translation>
+        <translation>Contra-
+seña:</translation>
     </message>
     <message>
         <source>Enter password</source>
         <extracomment>Kind of dialog, at the right of the caption</extracomment>
-        <translation>Introducir clave</translation>
+        <translation>Introducir contraseña</translation>
     </message>
     <message>
         <source>Password</source>
         <extracomment>Name of a field for screen readers</extracomment>
-        <translation>Clave</translation>
+        <translation>Contraseña</translation>
     </message>
 </context>
 </TS>

@@ -111,7 +111,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>You need to enroll Tavik by providing host, port and token from Device Enrollment email and pressing &quot;Enroll&quot; button.</source>
-        <translation>Pour inscrire Tavik, saisissez l’hôte, le port et le jeton de l’e-mail d’inscription de l’appareil, puis cliquez sur «&#xa0;Inscrire&#xa0;».</translation>
+        <translation>Pour inscrire Tavik, saisissez l’hôte, le port et le jeton de l’e‑mail d’inscription de&#xa0;l’appareil, puis cliquez sur «&#xa0;Inscrire&#xa0;».</translation>
     </message>
     <message>
         <source>Tavik needs to be enrolled
@@ -149,7 +149,7 @@ pour gérer cet appareil</translation>
     </message>
     <message>
         <source>Please set up host, port and token from Device Enrollment email.</source>
-        <translation>Veuillez saisir l’hôte, le port et le jeton de l’e-mail d’inscription de l’appareil.</translation>
+        <translation>Veuillez saisir l’hôte, le port et le jeton de&#xa0;l’e‑mail&#xa0;d’inscription&#xa0;de&#xa0;l’appareil.</translation>
     </message>
     <message>
         <source>Close</source>
@@ -166,13 +166,13 @@ pour gérer cet appareil</translation>
     </message>
     <message>
         <source>Allow</source>
-        <extracomment>Button: lets the remote person in</extracomment>
+        <extracomment>Button: lets the remote person in. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
         <translation>Autoriser</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <extracomment>Button: refuses the remote person</extracomment>
-        <translation>Annuler</translation>
+        <extracomment>Button: refuses the remote person, the opposite of &quot;Allow&quot;. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
+        <translation>Refuser</translation>
     </message>
     <message>
         <source>Remote tools</source>
@@ -219,11 +219,13 @@ pour gérer cet appareil</translation>
     </message>
     <message>
         <source>You need to login with your Brisel Tavik online account in order to continue</source>
-        <translation>Pour continuer, connectez-vous avec votre compte en ligne Brisel Tavik</translation>
+        <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
+        <translation>Pour continuer, connectez‑vous avec votre&#xa0;compte&#xa0;en&#xa0;ligne&#xa0;Brisel&#xa0;Tavik</translation>
     </message>
     <message>
         <source>Please login with your Brisel Tavik</source>
-        <translation>Veuillez vous connecter avec votre compte Brisel Tavik</translation>
+        <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
+        <translation>Veuillez vous connecter avec votre compte Brisel&#xa0;Tavik</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -297,7 +299,7 @@ passe&#xa0;:</translation>
     <message>
         <source>Enter password</source>
         <extracomment>Kind of dialog, at the right of the caption</extracomment>
-        <translation>Saisir le mot de passe</translation>
+        <translation>Saisie du mot de passe</translation>
     </message>
     <message>
         <source>Administrator password</source>
@@ -455,6 +457,171 @@ Name of the large picture for screen readers</extracomment>
     </message>
 </context>
 <context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>Tout &amp;sélectionner</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>Au&amp;gmenter</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>&amp;Diminuer</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Co&amp;uper</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>C&amp;oller</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Tout sélectionner</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Discard</source>
+        <translation>Abandonner</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Faire défiler jusqu’ici</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Bord gauche</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Début</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Bord droit</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Fin</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>Page à gauche</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Page précédente</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>Page à droite</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Page suivante</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Défiler vers la gauche</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Défiler vers le haut</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Défiler vers la droite</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Défiler vers le bas</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Maj</translation>
+    </message>
+</context>
+<context>
+    <name>QUnicodeControlCharacterMenu</name>
+    <message>
+        <source>Insert Unicode control character</source>
+        <translation>Insérer un caractère de contrôle Unicode</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Co&amp;uper</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>C&amp;oller</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>Copier l’adresse du &amp;lien</translation>
+    </message>
+</context>
+<context>
     <name>RebootDialog</name>
     <message>
         <source>Tavik Reboot</source>
@@ -495,7 +662,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Shutdown now</source>
-        <translation>Éteindre le PC</translation>
+        <translation>Arrêter le PC</translation>
     </message>
     <message>
         <source>Reason for the restart</source>
@@ -523,7 +690,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>End session</source>
-        <extracomment>Button: stops the remote tools session</extracomment>
+        <extracomment>Button: stops the session. May be shortened</extracomment>
         <translation>Terminer</translation>
     </message>
     <message>
@@ -541,34 +708,42 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>File uploaded</source>
-        <translation>Fichier chargé</translation>
+        <extracomment>Upload: from the technician to this computer</extracomment>
+        <translation>Fichier téléversé</translation>
     </message>
     <message>
         <source>Upload aborted</source>
-        <translation>Chargement arrêté</translation>
+        <extracomment>Upload: from the technician to this computer</extracomment>
+        <translation>Téléversement arrêté</translation>
     </message>
     <message>
         <source>Upload cancelled</source>
-        <translation>Chargement annulé</translation>
+        <extracomment>Upload: from the technician to this computer</extracomment>
+        <translation>Téléversement annulé</translation>
     </message>
     <message>
         <source>File downloaded</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>Fichier téléchargé</translation>
     </message>
     <message>
         <source>Download aborted</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>Téléchargement arrêté</translation>
     </message>
     <message>
         <source>Download cancelled</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>Téléchargement annulé</translation>
     </message>
     <message>
         <source>Folder uploaded</source>
-        <translation>Dossier chargé</translation>
+        <extracomment>Upload: from the technician to this computer</extracomment>
+        <translation>Dossier téléversé</translation>
     </message>
     <message>
         <source>Folder downloaded</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>Dossier téléchargé</translation>
     </message>
     <message>
@@ -613,7 +788,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Service resumed</source>
-        <translation>Reprise du service</translation>
+        <translation>Service repris</translation>
     </message>
     <message>
         <source>Session suspended</source>
@@ -621,7 +796,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Session resumed</source>
-        <translation>Reprise de la session</translation>
+        <translation>Session reprise</translation>
     </message>
     <message>
         <source>Hide window</source>
@@ -638,12 +813,18 @@ Name of the large picture for screen readers</extracomment>
         <extracomment>What is done on this computer during the session</extracomment>
         <translation>Journal d’activité</translation>
     </message>
+    <message>
+        <source>End session</source>
+        <comment>in full</comment>
+        <extracomment>Name of the button for screen readers, never shortened</extracomment>
+        <translation>Terminer la session</translation>
+    </message>
 </context>
 <context>
     <name>ServiceDeskTicketDialog</name>
     <message>
         <source>Brisel Tavik: Submit Ticket</source>
-        <translation>Brisel Tavik&#xa0;: Envoyer un ticket</translation>
+        <translation>Brisel Tavik&#xa0;: Envoi d’un ticket</translation>
     </message>
     <message>
         <source>Tavik</source>
@@ -701,7 +882,7 @@ Name of the large picture for screen readers</extracomment>
     <message>
         <source>Submit ticket</source>
         <extracomment>Title of the dialog</extracomment>
-        <translation>Envoyer un ticket</translation>
+        <translation>Envoi d’un ticket</translation>
     </message>
     <message>
         <source>Ticket not submitted</source>
@@ -758,7 +939,7 @@ passe&#xa0;:</translation>
     <message>
         <source>Enter password</source>
         <extracomment>Kind of dialog, at the right of the caption</extracomment>
-        <translation>Saisir le mot de passe</translation>
+        <translation>Saisie du mot de passe</translation>
     </message>
     <message>
         <source>Password</source>

@@ -27,11 +27,11 @@
     </message>
     <message>
         <source>Support phone: </source>
-        <translation>Telefono supporto: </translation>
+        <translation>Telefono di supporto: </translation>
     </message>
     <message>
         <source>Support email: </source>
-        <translation>E-mail supporto: </translation>
+        <translation>E-mail di supporto: </translation>
     </message>
     <message>
         <source>All rights reserved</source>
@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>Support web-site: </source>
-        <translation>Sito Web supporto: </translation>
+        <translation>Sito web di supporto: </translation>
     </message>
     <message>
         <source>About</source>
@@ -111,7 +111,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>You need to enroll Tavik by providing host, port and token from Device Enrollment email and pressing &quot;Enroll&quot; button.</source>
-        <translation>È necessario registrare Tavik immettendo host, porta e token indicati nell’e-mail di registrazione del dispositivo e facendo clic su “Registra”.</translation>
+        <translation>È necessario registrare Tavik immettendo host, porta e token indicati nell’e‑mail di registrazione del dispositivo e facendo clic su “Registra”.</translation>
     </message>
     <message>
         <source>Tavik needs to be enrolled
@@ -149,7 +149,7 @@ per gestire questo dispositivo</translation>
     </message>
     <message>
         <source>Please set up host, port and token from Device Enrollment email.</source>
-        <translation>Immettere host, porta e token indicati nell’e-mail di registrazione del dispositivo.</translation>
+        <translation>Immettere host, porta e token indicati nell’e‑mail&#xa0;di&#xa0;registrazione&#xa0;del&#xa0;dispositivo.</translation>
     </message>
     <message>
         <source>Close</source>
@@ -166,13 +166,13 @@ per gestire questo dispositivo</translation>
     </message>
     <message>
         <source>Allow</source>
-        <extracomment>Button: lets the remote person in</extracomment>
+        <extracomment>Button: lets the remote person in. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
         <translation>Consenti</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <extracomment>Button: refuses the remote person</extracomment>
-        <translation>Annulla</translation>
+        <extracomment>Button: refuses the remote person, the opposite of &quot;Allow&quot;. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
+        <translation>Rifiuta</translation>
     </message>
     <message>
         <source>Remote tools</source>
@@ -219,11 +219,13 @@ per gestire questo dispositivo</translation>
     </message>
     <message>
         <source>You need to login with your Brisel Tavik online account in order to continue</source>
-        <translation>Per continuare è necessario accedere con l’account online Brisel Tavik</translation>
+        <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
+        <translation>Per continuare è necessario accedere con&#xa0;l’account&#xa0;online&#xa0;Brisel&#xa0;Tavik</translation>
     </message>
     <message>
         <source>Please login with your Brisel Tavik</source>
-        <translation>Accedere con l’account Brisel Tavik</translation>
+        <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
+        <translation>Accedere con l’account Brisel&#xa0;Tavik</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -268,7 +270,7 @@ per gestire questo dispositivo</translation>
     </message>
     <message>
         <source>Computer Administrator (A Windows account with administrative privileges)</source>
-        <translation>Amministratore del computer (account di Windows con privilegi amministrativi)</translation>
+        <translation>Amministratore del computer (account di Windows con privilegi di amministratore)</translation>
     </message>
     <message>
         <source>Ostrel Custom Password</source>
@@ -295,7 +297,7 @@ per gestire questo dispositivo</translation>
     <message>
         <source>Enter password</source>
         <extracomment>Kind of dialog, at the right of the caption</extracomment>
-        <translation>Immetti password</translation>
+        <translation>Immissione password</translation>
     </message>
     <message>
         <source>Administrator password</source>
@@ -453,6 +455,171 @@ Name of the large picture for screen readers</extracomment>
     </message>
 </context>
 <context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>&amp;Seleziona tutto</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>A&amp;umenta</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>&amp;Diminuisci</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annulla</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Ripristina</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Taglia</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copia</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Incolla</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Elimina</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Seleziona tutto</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Discard</source>
+        <translation>Scarta</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Scorri fino a qui</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Bordo sinistro</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Inizio</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Bordo destro</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Fine</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>Pagina a sinistra</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Pagina su</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>Pagina a destra</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Pagina giù</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Scorri a sinistra</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Scorri verso l’alto</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Scorri a destra</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Scorri verso il basso</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Maiusc</translation>
+    </message>
+</context>
+<context>
+    <name>QUnicodeControlCharacterMenu</name>
+    <message>
+        <source>Insert Unicode control character</source>
+        <translation>Inserisci carattere di controllo Unicode</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annulla</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Ripristina</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Taglia</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copia</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Incolla</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Elimina</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Seleziona tutto</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>Copia indirizzo del &amp;link</translation>
+    </message>
+</context>
+<context>
     <name>RebootDialog</name>
     <message>
         <source>Tavik Reboot</source>
@@ -521,7 +688,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>End session</source>
-        <extracomment>Button: stops the remote tools session</extracomment>
+        <extracomment>Button: stops the session. May be shortened</extracomment>
         <translation>Termina sessione</translation>
     </message>
     <message>
@@ -539,34 +706,42 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>File uploaded</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>File caricato</translation>
     </message>
     <message>
         <source>Upload aborted</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>Caricamento interrotto</translation>
     </message>
     <message>
         <source>Upload cancelled</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>Caricamento annullato</translation>
     </message>
     <message>
         <source>File downloaded</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>File scaricato</translation>
     </message>
     <message>
         <source>Download aborted</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>Download interrotto</translation>
     </message>
     <message>
         <source>Download cancelled</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>Download annullato</translation>
     </message>
     <message>
         <source>Folder uploaded</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>Cartella caricata</translation>
     </message>
     <message>
         <source>Folder downloaded</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>Cartella scaricata</translation>
     </message>
     <message>
@@ -636,12 +811,18 @@ Name of the large picture for screen readers</extracomment>
         <extracomment>What is done on this computer during the session</extracomment>
         <translation>Registro attività</translation>
     </message>
+    <message>
+        <source>End session</source>
+        <comment>in full</comment>
+        <extracomment>Name of the button for screen readers, never shortened</extracomment>
+        <translation>Termina sessione</translation>
+    </message>
 </context>
 <context>
     <name>ServiceDeskTicketDialog</name>
     <message>
         <source>Brisel Tavik: Submit Ticket</source>
-        <translation>Brisel Tavik: Invia ticket</translation>
+        <translation>Brisel Tavik: Invio ticket</translation>
     </message>
     <message>
         <source>Tavik</source>
@@ -654,7 +835,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Issue Summary</source>
-        <translation>Riepilogo problema</translation>
+        <translation>Riepilogo del problema</translation>
     </message>
     <message>
         <source>Department</source>
@@ -666,7 +847,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Issue Details</source>
-        <translation>Dettagli problema</translation>
+        <translation>Dettagli del problema</translation>
     </message>
     <message>
         <source>Include device data (brand, model, serial number, logged on user, domain/workgroup)</source>
@@ -699,7 +880,7 @@ Name of the large picture for screen readers</extracomment>
     <message>
         <source>Submit ticket</source>
         <extracomment>Title of the dialog</extracomment>
-        <translation>Invia ticket</translation>
+        <translation>Invio ticket</translation>
     </message>
     <message>
         <source>Ticket not submitted</source>
@@ -707,7 +888,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Do you want to discard all changes?</source>
-        <translation>Eliminare tutte le modifiche?</translation>
+        <translation>Scartare tutte le modifiche?</translation>
     </message>
     <message>
         <source>Ok</source>
@@ -755,7 +936,7 @@ per continuare</translation>
     <message>
         <source>Enter password</source>
         <extracomment>Kind of dialog, at the right of the caption</extracomment>
-        <translation>Immetti password</translation>
+        <translation>Immissione password</translation>
     </message>
     <message>
         <source>Password</source>

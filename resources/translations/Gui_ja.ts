@@ -35,7 +35,7 @@
     </message>
     <message>
         <source>All rights reserved</source>
-        <translation>無断複写・転載を禁じます</translation>
+        <translation>All rights reserved</translation>
     </message>
     <message>
         <source>Server:</source>
@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>Last communication session: </source>
-        <translation>前回の通信: </translation>
+        <translation>最終通信日時: </translation>
     </message>
     <message>
         <source>Support web-site: </source>
@@ -116,7 +116,7 @@ Name of the large picture for screen readers</extracomment>
     <message>
         <source>Tavik needs to be enrolled
 in order to manage this device</source>
-        <translation>このデバイスを管理するには
+        <translation>このデバイスを管理するには、
 Tavik の登録が必要です</translation>
     </message>
     <message>
@@ -149,7 +149,7 @@ Tavik の登録が必要です</translation>
     </message>
     <message>
         <source>Please set up host, port and token from Device Enrollment email.</source>
-        <translation>デバイス登録メールのホスト、ポート、トークンを入力します。</translation>
+        <translation>登録メールのホスト、ポート、トークンを入力してください。</translation>
     </message>
     <message>
         <source>Close</source>
@@ -166,13 +166,13 @@ Tavik の登録が必要です</translation>
     </message>
     <message>
         <source>Allow</source>
-        <extracomment>Button: lets the remote person in</extracomment>
+        <extracomment>Button: lets the remote person in. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
         <translation>許可</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <extracomment>Button: refuses the remote person</extracomment>
-        <translation>キャンセル</translation>
+        <extracomment>Button: refuses the remote person, the opposite of &quot;Allow&quot;. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
+        <translation>拒否</translation>
     </message>
     <message>
         <source>Remote tools</source>
@@ -218,12 +218,14 @@ Tavik の登録が必要です</translation>
     </message>
     <message>
         <source>You need to login with your Brisel Tavik online account in order to continue</source>
-        <translation>続行するには、Brisel Tavik オンライン アカウントで
+        <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
+        <translation>続行するには、Brisel&#xa0;Tavik オンライン アカウントで
 ログインする必要があります</translation>
     </message>
     <message>
         <source>Please login with your Brisel Tavik</source>
-        <translation>Brisel Tavik アカウントでログインしてください</translation>
+        <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
+        <translation>Brisel&#xa0;Tavik アカウントでログインしてください</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -260,7 +262,7 @@ Tavik の登録が必要です</translation>
     </message>
     <message>
         <source>Please enter your credentials in order to continue</source>
-        <translation>続行するには資格情報を入力してください</translation>
+        <translation>続行するには、資格情報を入力してください</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -268,7 +270,7 @@ Tavik の登録が必要です</translation>
     </message>
     <message>
         <source>Computer Administrator (A Windows account with administrative privileges)</source>
-        <translation>コンピューターの管理者 (管理者特権を持つ Windows アカウント)</translation>
+        <translation>コンピューターの管理者 (管理者権限を持つ Windows アカウント)</translation>
     </message>
     <message>
         <source>Ostrel Custom Password</source>
@@ -391,7 +393,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Automatically download and install program updates</source>
-        <translation>プログラムの更新を自動的にダウンロードしてインストールする</translation>
+        <translation>更新プログラムを自動的にダウンロードしてインストールする</translation>
     </message>
     <message>
         <source>Deactivate ZENT Agent...</source>
@@ -450,6 +452,171 @@ Name of the large picture for screen readers</extracomment>
         <source>Please wait</source>
         <extracomment>Description of the turning spinner for screen readers</extracomment>
         <translation>お待ちください</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>すべて選択(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>値を増やす(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>値を減らす(&amp;D)</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>元に戻す(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>やり直し(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>切り取り(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>コピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>貼り付け(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>すべて選択</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Discard</source>
+        <translation>破棄</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>ここにスクロール</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>左端</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>一番上</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>右端</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>一番下</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>1 ページ左へ</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>1 ページ上へ</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>1 ページ右へ</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>1 ページ下へ</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>左にスクロール</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>上にスクロール</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>右にスクロール</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>下にスクロール</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+</context>
+<context>
+    <name>QUnicodeControlCharacterMenu</name>
+    <message>
+        <source>Insert Unicode control character</source>
+        <translation>Unicode 制御文字の挿入</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>元に戻す(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>やり直し(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>切り取り(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>コピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>貼り付け(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>すべて選択</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>リンクのアドレスをコピー(&amp;L)</translation>
     </message>
 </context>
 <context>
@@ -521,7 +688,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>End session</source>
-        <extracomment>Button: stops the remote tools session</extracomment>
+        <extracomment>Button: stops the session. May be shortened</extracomment>
         <translation>セッション終了</translation>
     </message>
     <message>
@@ -539,87 +706,95 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>File uploaded</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>ファイルのアップロード完了</translation>
     </message>
     <message>
         <source>Upload aborted</source>
-        <translation>アップロードが中断されました</translation>
+        <extracomment>Upload: from the technician to this computer</extracomment>
+        <translation>アップロード中断</translation>
     </message>
     <message>
         <source>Upload cancelled</source>
-        <translation>アップロードをキャンセル済み</translation>
+        <extracomment>Upload: from the technician to this computer</extracomment>
+        <translation>アップロード取り消し</translation>
     </message>
     <message>
         <source>File downloaded</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>ファイルのダウンロード完了</translation>
     </message>
     <message>
         <source>Download aborted</source>
-        <translation>ダウンロードが中断されました</translation>
+        <extracomment>Download: from this computer to the technician</extracomment>
+        <translation>ダウンロード中断</translation>
     </message>
     <message>
         <source>Download cancelled</source>
-        <translation>ダウンロードをキャンセル済み</translation>
+        <extracomment>Download: from this computer to the technician</extracomment>
+        <translation>ダウンロード取り消し</translation>
     </message>
     <message>
         <source>Folder uploaded</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>フォルダーのアップロード完了</translation>
     </message>
     <message>
         <source>Folder downloaded</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>フォルダーのダウンロード完了</translation>
     </message>
     <message>
         <source>File deleted</source>
-        <translation>ファイルを削除しました</translation>
+        <translation>ファイル削除</translation>
     </message>
     <message>
         <source>File renamed</source>
-        <translation>ファイル名を変更しました</translation>
+        <translation>ファイル名変更</translation>
     </message>
     <message>
         <source>Folder deleted</source>
-        <translation>フォルダーを削除しました</translation>
+        <translation>フォルダー削除</translation>
     </message>
     <message>
         <source>Folder renamed</source>
-        <translation>フォルダー名を変更しました</translation>
+        <translation>フォルダー名変更</translation>
     </message>
     <message>
         <source>Folder created</source>
-        <translation>フォルダーを作成しました</translation>
+        <translation>フォルダー作成</translation>
     </message>
     <message>
         <source>Process ended</source>
-        <translation>プロセスを終了しました</translation>
+        <translation>プロセス終了</translation>
     </message>
     <message>
         <source>Service started</source>
-        <translation>サービスを開始しました</translation>
+        <translation>サービス開始</translation>
     </message>
     <message>
         <source>Service stopped</source>
-        <translation>サービスを停止しました</translation>
+        <translation>サービス停止</translation>
     </message>
     <message>
         <source>Service restarted</source>
-        <translation>サービスを再起動しました</translation>
+        <translation>サービス再起動</translation>
     </message>
     <message>
         <source>Service paused</source>
-        <translation>サービスを一時停止しました</translation>
+        <translation>サービス一時停止</translation>
     </message>
     <message>
         <source>Service resumed</source>
-        <translation>サービスを再開しました</translation>
+        <translation>サービス再開</translation>
     </message>
     <message>
         <source>Session suspended</source>
-        <translation>セッションを中断しました</translation>
+        <translation>セッション一時停止</translation>
     </message>
     <message>
         <source>Session resumed</source>
-        <translation>セッションを再開しました</translation>
+        <translation>セッション再開</translation>
     </message>
     <message>
         <source>Hide window</source>
@@ -635,6 +810,12 @@ Name of the large picture for screen readers</extracomment>
         <source>Activity log</source>
         <extracomment>What is done on this computer during the session</extracomment>
         <translation>操作ログ</translation>
+    </message>
+    <message>
+        <source>End session</source>
+        <comment>in full</comment>
+        <extracomment>Name of the button for screen readers, never shortened</extracomment>
+        <translation>セッション終了</translation>
     </message>
 </context>
 <context>
@@ -738,7 +919,7 @@ Name of the large picture for screen readers</extracomment>
     <message>
         <source>You need to enter Zent Custom Password
 in order to continue</source>
-        <translation>続行するには Zent カスタム パスワードを
+        <translation>続行するには、Zent カスタム パスワードを
 入力する必要があります</translation>
     </message>
     <message>

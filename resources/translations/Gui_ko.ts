@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>Support web-site: </source>
-        <translation>지원 웹 사이트: </translation>
+        <translation>지원 웹사이트: </translation>
     </message>
     <message>
         <source>About</source>
@@ -111,7 +111,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>You need to enroll Tavik by providing host, port and token from Device Enrollment email and pressing &quot;Enroll&quot; button.</source>
-        <translation>장치 등록 이메일에 있는 호스트, 포트, 토큰을 입력하고 [등록] 단추를 눌러 Tavik을 등록해야 합니다.</translation>
+        <translation>장치 등록 이메일에 있는 호스트, 포트, 토큰을 입력하고 [등록] 버튼을 눌러 Tavik을&#xa0;등록해야&#xa0;합니다.</translation>
     </message>
     <message>
         <source>Tavik needs to be enrolled
@@ -166,13 +166,13 @@ Tavik을 등록해야 합니다</translation>
     </message>
     <message>
         <source>Allow</source>
-        <extracomment>Button: lets the remote person in</extracomment>
+        <extracomment>Button: lets the remote person in. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
         <translation>허용</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <extracomment>Button: refuses the remote person</extracomment>
-        <translation>취소</translation>
+        <extracomment>Button: refuses the remote person, the opposite of &quot;Allow&quot;. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
+        <translation>거부</translation>
     </message>
     <message>
         <source>Remote tools</source>
@@ -192,7 +192,7 @@ Tavik을 등록해야 합니다</translation>
     <message numerus="yes">
         <source>%n second(s) left to answer</source>
         <translation>
-            <numerusform>응답까지 %n초 남았습니다</numerusform>
+            <numerusform>응답 시간이 %n초 남았습니다</numerusform>
         </translation>
     </message>
 </context>
@@ -218,11 +218,13 @@ Tavik을 등록해야 합니다</translation>
     </message>
     <message>
         <source>You need to login with your Brisel Tavik online account in order to continue</source>
-        <translation>계속하려면 Brisel Tavik 온라인 계정으로 로그인해야 합니다</translation>
+        <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
+        <translation>계속하려면 Brisel&#xa0;Tavik 온라인 계정으로 로그인해야 합니다</translation>
     </message>
     <message>
         <source>Please login with your Brisel Tavik</source>
-        <translation>Brisel Tavik 계정으로 로그인하십시오</translation>
+        <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
+        <translation>Brisel&#xa0;Tavik 계정으로 로그인하십시오</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -234,7 +236,7 @@ Tavik을 등록해야 합니다</translation>
     </message>
     <message>
         <source>Username:</source>
-        <translation>사용자명:</translation>
+        <translation>사용자:</translation>
     </message>
     <message>
         <source>Close</source>
@@ -281,7 +283,7 @@ Tavik을 등록해야 합니다</translation>
     <message>
         <source>Login:</source>
         <extracomment>Label of the field for the administrator&apos;s account name</extracomment>
-        <translation>사용자명:</translation>
+        <translation>사용자:</translation>
     </message>
     <message>
         <source>Password:</source>
@@ -378,7 +380,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Login:</source>
-        <translation>사용자명:</translation>
+        <translation>사용자:</translation>
     </message>
     <message>
         <source>Password:</source>
@@ -452,6 +454,171 @@ Name of the large picture for screen readers</extracomment>
     </message>
 </context>
 <context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>모두 선택(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>값 늘리기(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>값 줄이기(&amp;D)</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>실행 취소(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>다시 실행(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>잘라내기(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>복사(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>붙여넣기(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>삭제</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>모두 선택</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Discard</source>
+        <translation>버리기</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>여기로 스크롤</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>왼쪽 끝</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>맨 위</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>오른쪽 끝</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>맨 아래</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>한 페이지 왼쪽</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>한 페이지 위로</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>한 페이지 오른쪽</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>한 페이지 아래로</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>왼쪽으로 스크롤</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>위로 스크롤</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>오른쪽으로 스크롤</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>아래로 스크롤</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+</context>
+<context>
+    <name>QUnicodeControlCharacterMenu</name>
+    <message>
+        <source>Insert Unicode control character</source>
+        <translation>유니코드 제어 문자 삽입</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>실행 취소(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>다시 실행(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>잘라내기(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>복사(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>붙여넣기(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>삭제</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>모두 선택</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>링크 주소 복사(&amp;L)</translation>
+    </message>
+</context>
+<context>
     <name>RebootDialog</name>
     <message>
         <source>Tavik Reboot</source>
@@ -520,7 +687,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>End session</source>
-        <extracomment>Button: stops the remote tools session</extracomment>
+        <extracomment>Button: stops the session. May be shortened</extracomment>
         <translation>세션 종료</translation>
     </message>
     <message>
@@ -534,38 +701,46 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Username</source>
-        <translation>사용자명</translation>
+        <translation>사용자 이름</translation>
     </message>
     <message>
         <source>File uploaded</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>파일을 업로드했습니다</translation>
     </message>
     <message>
         <source>Upload aborted</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>업로드가 중단되었습니다</translation>
     </message>
     <message>
         <source>Upload cancelled</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>업로드가 취소되었습니다</translation>
     </message>
     <message>
         <source>File downloaded</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>파일을 다운로드했습니다</translation>
     </message>
     <message>
         <source>Download aborted</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>다운로드가 중단되었습니다</translation>
     </message>
     <message>
         <source>Download cancelled</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>다운로드가 취소되었습니다</translation>
     </message>
     <message>
         <source>Folder uploaded</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>폴더를 업로드했습니다</translation>
     </message>
     <message>
         <source>Folder downloaded</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>폴더를 다운로드했습니다</translation>
     </message>
     <message>
@@ -635,6 +810,12 @@ Name of the large picture for screen readers</extracomment>
         <extracomment>What is done on this computer during the session</extracomment>
         <translation>활동 로그</translation>
     </message>
+    <message>
+        <source>End session</source>
+        <comment>in full</comment>
+        <extracomment>Name of the button for screen readers, never shortened</extracomment>
+        <translation>세션 종료</translation>
+    </message>
 </context>
 <context>
     <name>ServiceDeskTicketDialog</name>
@@ -661,7 +842,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Priority Level</source>
-        <translation>우선 순위</translation>
+        <translation>우선순위</translation>
     </message>
     <message>
         <source>Issue Details</source>
@@ -669,7 +850,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Include device data (brand, model, serial number, logged on user, domain/workgroup)</source>
-        <translation>장치 데이터 포함(브랜드, 모델, 일련 번호, 로그인한 사용자, 도메인/작업 그룹)</translation>
+        <translation>장치 데이터 포함(브랜드, 모델, 일련번호, 로그인한 사용자, 도메인/작업 그룹)</translation>
     </message>
     <message>
         <source>Note: Company, Device Name and Owner are included by default.</source>

@@ -111,7 +111,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>You need to enroll Tavik by providing host, port and token from Device Enrollment email and pressing &quot;Enroll&quot; button.</source>
-        <translation>U moet Tavik inschrijven: voer de host, de poort en het token uit de e-mail voor apparaatinschrijving in en klik op “Inschrijven”.</translation>
+        <translation>U moet Tavik inschrijven: voer de host, de poort en het token uit de e‑mail voor apparaatinschrijving in en klik op “Inschrijven”.</translation>
     </message>
     <message>
         <source>Tavik needs to be enrolled
@@ -149,7 +149,7 @@ om dit apparaat te beheren</translation>
     </message>
     <message>
         <source>Please set up host, port and token from Device Enrollment email.</source>
-        <translation>Voer de host, de poort en het token uit de e-mail voor apparaatinschrijving in.</translation>
+        <translation>Voer de host, de poort en het token uit&#xa0;de&#xa0;e‑mail&#xa0;voor&#xa0;apparaatinschrijving&#xa0;in.</translation>
     </message>
     <message>
         <source>Close</source>
@@ -166,18 +166,18 @@ om dit apparaat te beheren</translation>
     </message>
     <message>
         <source>Allow</source>
-        <extracomment>Button: lets the remote person in</extracomment>
+        <extracomment>Button: lets the remote person in. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
         <translation>Toestaan</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <extracomment>Button: refuses the remote person</extracomment>
-        <translation>Annuleren</translation>
+        <extracomment>Button: refuses the remote person, the opposite of &quot;Allow&quot;. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
+        <translation>Weigeren</translation>
     </message>
     <message>
         <source>Remote tools</source>
         <extracomment>Kind of remote session in a window title, after the name of the person who asks for it</extracomment>
-        <translation>Hulpprogramma’s op afstand</translation>
+        <translation>Externe hulpprogramma’s</translation>
     </message>
     <message>
         <source>Remote access</source>
@@ -219,11 +219,13 @@ om dit apparaat te beheren</translation>
     </message>
     <message>
         <source>You need to login with your Brisel Tavik online account in order to continue</source>
-        <translation>U moet zich aanmelden met uw Brisel Tavik-onlineaccount om door te gaan</translation>
+        <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
+        <translation>U moet zich aanmelden met uw Brisel&#xa0;Tavik‑onlineaccount om&#xa0;door&#xa0;te&#xa0;gaan</translation>
     </message>
     <message>
         <source>Please login with your Brisel Tavik</source>
-        <translation>Meld u aan met uw Brisel Tavik-account</translation>
+        <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
+        <translation>Meld u aan met uw Brisel&#xa0;Tavik-account</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -273,7 +275,7 @@ woord:</translation>
     </message>
     <message>
         <source>Ostrel Custom Password</source>
-        <translation>Aangepast Ostrel-wachtwoord</translation>
+        <translation>Eigen Ostrel-wachtwoord</translation>
     </message>
     <message>
         <source>Domain:</source>
@@ -301,12 +303,12 @@ woord:</translation>
     <message>
         <source>Administrator password</source>
         <extracomment>Name of a field for screen readers</extracomment>
-        <translation>Wachtwoord van beheerder</translation>
+        <translation>Beheerderswachtwoord</translation>
     </message>
     <message>
         <source>Custom password</source>
         <extracomment>Name of a field for screen readers</extracomment>
-        <translation>Aangepast wachtwoord</translation>
+        <translation>Eigen wachtwoord</translation>
     </message>
 </context>
 <context>
@@ -454,6 +456,171 @@ Name of the large picture for screen readers</extracomment>
     </message>
 </context>
 <context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>&amp;Alles selecteren</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>Ver&amp;hogen</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>Ver&amp;lagen</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Ongedaan maken</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>Opnieu&amp;w</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>K&amp;nippen</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopiëren</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Plakken</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Verwijderen</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alles selecteren</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Discard</source>
+        <translation>Verwerpen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Hierheen schuiven</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Linkerrand</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Bovenaan</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Rechterrand</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Onderaan</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>Pagina naar links</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Pagina omhoog</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>Pagina naar rechts</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Pagina omlaag</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Naar links schuiven</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Omhoog schuiven</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Naar rechts schuiven</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Omlaag schuiven</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+</context>
+<context>
+    <name>QUnicodeControlCharacterMenu</name>
+    <message>
+        <source>Insert Unicode control character</source>
+        <translation>Unicode-besturingsteken invoegen</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Ongedaan maken</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>Opnieu&amp;w</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>K&amp;nippen</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopiëren</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Plakken</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Verwijderen</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alles selecteren</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>&amp;Linkadres kopiëren</translation>
+    </message>
+</context>
+<context>
     <name>RebootDialog</name>
     <message>
         <source>Tavik Reboot</source>
@@ -510,7 +677,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Remote Tool Session</source>
-        <translation>Hulpprogramma’s op afstand</translation>
+        <translation>Externe hulpprogramma’s</translation>
     </message>
     <message>
         <source>File Transfer Session</source>
@@ -522,7 +689,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>End session</source>
-        <extracomment>Button: stops the remote tools session</extracomment>
+        <extracomment>Button: stops the session. May be shortened</extracomment>
         <translation>Beëindigen</translation>
     </message>
     <message>
@@ -540,34 +707,42 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>File uploaded</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>Bestand geüpload</translation>
     </message>
     <message>
         <source>Upload aborted</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>Uploaden afgebroken</translation>
     </message>
     <message>
         <source>Upload cancelled</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>Uploaden geannuleerd</translation>
     </message>
     <message>
         <source>File downloaded</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>Bestand gedownload</translation>
     </message>
     <message>
         <source>Download aborted</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>Downloaden afgebroken</translation>
     </message>
     <message>
         <source>Download cancelled</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>Downloaden geannuleerd</translation>
     </message>
     <message>
         <source>Folder uploaded</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>Map geüpload</translation>
     </message>
     <message>
         <source>Folder downloaded</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>Map gedownload</translation>
     </message>
     <message>
@@ -636,6 +811,12 @@ Name of the large picture for screen readers</extracomment>
         <source>Activity log</source>
         <extracomment>What is done on this computer during the session</extracomment>
         <translation>Activiteitenlogboek</translation>
+    </message>
+    <message>
+        <source>End session</source>
+        <comment>in full</comment>
+        <extracomment>Name of the button for screen readers, never shortened</extracomment>
+        <translation>Sessie beëindigen</translation>
     </message>
 </context>
 <context>
@@ -738,12 +919,12 @@ Name of the large picture for screen readers</extracomment>
     <message>
         <source>You need to enter Zent Custom Password
 in order to continue</source>
-        <translation>U moet het aangepaste Zent-wachtwoord invoeren
+        <translation>U moet uw eigen Zent-wachtwoord invoeren
 om door te gaan</translation>
     </message>
     <message>
         <source>Please enter Zent Custom Password</source>
-        <translation>Voer het aangepaste Zent-wachtwoord in</translation>
+        <translation>Voer uw eigen Zent-wachtwoord in</translation>
     </message>
     <message>
         <source>Cancel</source>

@@ -5,7 +5,7 @@
     <name>AboutDialog</name>
     <message>
         <source>Brisel Tavik About</source>
-        <translation>Acerca do Brisel Tavik</translation>
+        <translation>Sobre o Brisel Tavik</translation>
     </message>
     <message>
         <source>Tavik</source>
@@ -58,7 +58,7 @@
     <message>
         <source>About</source>
         <extracomment>Title of the dialog</extracomment>
-        <translation>Acerca de</translation>
+        <translation>Sobre</translation>
     </message>
     <message>
         <source>Close</source>
@@ -82,7 +82,7 @@
         <extracomment>Stands in for the message until the host sets one
 ----------
 Name of the large picture for screen readers</extracomment>
-        <translation>Sucesso</translation>
+        <translation>Operação concluída</translation>
     </message>
     <message>
         <source>OK</source>
@@ -111,17 +111,17 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>You need to enroll Tavik by providing host, port and token from Device Enrollment email and pressing &quot;Enroll&quot; button.</source>
-        <translation>Para inscrever o Tavik, introduza o host, a porta e o token do e-mail de inscrição do dispositivo e clique no botão “Inscrever”.</translation>
+        <translation>Para registrar o Tavik, insira o host, a porta e o token do e‑mail de registro do&#xa0;dispositivo e clique no botão “Registrar”.</translation>
     </message>
     <message>
         <source>Tavik needs to be enrolled
 in order to manage this device</source>
-        <translation>É necessário inscrever o Tavik
-para gerir este dispositivo</translation>
+        <translation>É necessário registrar o Tavik
+para gerenciar este dispositivo</translation>
     </message>
     <message>
         <source>Enrollment Required</source>
-        <translation>Inscrição necessária</translation>
+        <translation>Registro necessário</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -130,7 +130,7 @@ para gerir este dispositivo</translation>
     <message>
         <source>Enroll</source>
         <extracomment>Both the kind of dialog in its caption and the button that enrolls the device</extracomment>
-        <translation>Inscrever</translation>
+        <translation>Registrar</translation>
     </message>
     <message>
         <source>Host:</source>
@@ -149,7 +149,7 @@ para gerir este dispositivo</translation>
     </message>
     <message>
         <source>Please set up host, port and token from Device Enrollment email.</source>
-        <translation>Introduza o host, a porta e o token do e-mail de inscrição do dispositivo.</translation>
+        <translation>Insira o host, a porta e o token do&#xa0;e‑mail&#xa0;de&#xa0;registro&#xa0;do&#xa0;dispositivo.</translation>
     </message>
     <message>
         <source>Close</source>
@@ -162,17 +162,17 @@ para gerir este dispositivo</translation>
     <message>
         <source>Remote control</source>
         <extracomment>Kind of remote session in a window title, after the name of the person who asks for it</extracomment>
-        <translation>Controlo remoto</translation>
+        <translation>Controle remoto</translation>
     </message>
     <message>
         <source>Allow</source>
-        <extracomment>Button: lets the remote person in</extracomment>
+        <extracomment>Button: lets the remote person in. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
         <translation>Permitir</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <extracomment>Button: refuses the remote person</extracomment>
-        <translation>Cancelar</translation>
+        <extracomment>Button: refuses the remote person, the opposite of &quot;Allow&quot;. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
+        <translation>Recusar</translation>
     </message>
     <message>
         <source>Remote tools</source>
@@ -201,17 +201,17 @@ para gerir este dispositivo</translation>
     <name>AuthorizationDialog</name>
     <message>
         <source>Brisel Tavik Login</source>
-        <translation>Brisel Tavik – Iniciar sessão</translation>
+        <translation>Brisel Tavik – Login</translation>
     </message>
     <message>
         <source>Forgot username or password?</source>
         <extracomment>Text of a link</extracomment>
-        <translation>Esqueceu os dados de acesso?</translation>
+        <translation>Esqueceu o usuário ou a senha?</translation>
     </message>
     <message>
         <source>Login</source>
         <extracomment>Both the kind of dialog in its caption and the button that logs in</extracomment>
-        <translation>Iniciar sessão</translation>
+        <translation>Fazer login</translation>
     </message>
     <message>
         <source>Authorization Required</source>
@@ -219,11 +219,13 @@ para gerir este dispositivo</translation>
     </message>
     <message>
         <source>You need to login with your Brisel Tavik online account in order to continue</source>
-        <translation>Para continuar, inicie sessão com a sua conta online do Brisel Tavik</translation>
+        <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
+        <translation>Para continuar, faça login com sua&#xa0;conta&#xa0;online&#xa0;do&#xa0;Brisel&#xa0;Tavik</translation>
     </message>
     <message>
         <source>Please login with your Brisel Tavik</source>
-        <translation>Inicie sessão com a sua conta do Brisel Tavik</translation>
+        <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
+        <translation>Faça login com sua conta do Brisel&#xa0;Tavik</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -235,7 +237,7 @@ para gerir este dispositivo</translation>
     </message>
     <message>
         <source>Username:</source>
-        <translation>Utilizador:</translation>
+        <translation>Usuário:</translation>
     </message>
     <message>
         <source>Close</source>
@@ -260,7 +262,7 @@ para gerir este dispositivo</translation>
     </message>
     <message>
         <source>Please enter your credentials in order to continue</source>
-        <translation>Introduza as suas credenciais para continuar</translation>
+        <translation>Insira suas credenciais para continuar</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -268,7 +270,7 @@ para gerir este dispositivo</translation>
     </message>
     <message>
         <source>Computer Administrator (A Windows account with administrative privileges)</source>
-        <translation>Administrador do computador (conta do Windows com privilégios administrativos)</translation>
+        <translation>Administrador do computador (uma conta do Windows com privilégios de administrador)</translation>
     </message>
     <message>
         <source>Ostrel Custom Password</source>
@@ -282,7 +284,7 @@ para gerir este dispositivo</translation>
     <message>
         <source>Login:</source>
         <extracomment>Label of the field for the administrator&apos;s account name</extracomment>
-        <translation>Utilizador:</translation>
+        <translation>Usuário:</translation>
     </message>
     <message>
         <source>Password:</source>
@@ -295,12 +297,12 @@ para gerir este dispositivo</translation>
     <message>
         <source>Enter password</source>
         <extracomment>Kind of dialog, at the right of the caption</extracomment>
-        <translation>Introduzir senha</translation>
+        <translation>Inserir senha</translation>
     </message>
     <message>
         <source>Administrator password</source>
         <extracomment>Name of a field for screen readers</extracomment>
-        <translation>Senha do administrador</translation>
+        <translation>Senha de administrador</translation>
     </message>
     <message>
         <source>Custom password</source>
@@ -353,7 +355,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Save</source>
-        <translation>Guardar</translation>
+        <translation>Salvar</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -361,7 +363,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Proxy settings</source>
-        <translation>Configuração do proxy</translation>
+        <translation>Configurações de proxy</translation>
     </message>
     <message>
         <source>Host:</source>
@@ -379,7 +381,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Login:</source>
-        <translation>Utilizador:</translation>
+        <translation>Usuário:</translation>
     </message>
     <message>
         <source>Password:</source>
@@ -387,11 +389,11 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Show tray icon on the taskbar</source>
-        <translation>Mostrar o ícone na área de notificação da barra de tarefas</translation>
+        <translation>Mostrar ícone na área de notificação da barra de tarefas</translation>
     </message>
     <message>
         <source>Automatically download and install program updates</source>
-        <translation>Descarregar e instalar automaticamente as atualizações do programa</translation>
+        <translation>Baixar e instalar automaticamente as atualizações do programa</translation>
     </message>
     <message>
         <source>Deactivate ZENT Agent...</source>
@@ -453,10 +455,175 @@ Name of the large picture for screen readers</extracomment>
     </message>
 </context>
 <context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>&amp;Selecionar tudo</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>&amp;Aumentar</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>Dimi&amp;nuir</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Desfazer</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Refazer</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Recor&amp;tar</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>Co&amp;lar</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Excluir</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Selecionar tudo</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Discard</source>
+        <translation>Descartar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Rolar até aqui</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Borda esquerda</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Início</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Borda direita</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Fim</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>Página à esquerda</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Página acima</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>Página à direita</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Página abaixo</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Rolar para a esquerda</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Rolar para cima</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Rolar para a direita</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Rolar para baixo</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+</context>
+<context>
+    <name>QUnicodeControlCharacterMenu</name>
+    <message>
+        <source>Insert Unicode control character</source>
+        <translation>Inserir caractere de controle Unicode</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Desfazer</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Refazer</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Recor&amp;tar</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>Co&amp;lar</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Excluir</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Selecionar tudo</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>Copiar endereço do lin&amp;k</translation>
+    </message>
+</context>
+<context>
     <name>RebootDialog</name>
     <message>
         <source>Tavik Reboot</source>
-        <translation>Tavik – Reinício</translation>
+        <translation>Tavik – Reinicialização</translation>
     </message>
     <message>
         <source>Reboot now</source>
@@ -489,7 +656,7 @@ Name of the large picture for screen readers</extracomment>
     <message>
         <source>Remind me in</source>
         <extracomment>Stands before a list of periods such as &quot;10 minutes&quot;</extracomment>
-        <translation>Lembrar-me dentro de</translation>
+        <translation>Lembrar-me em</translation>
     </message>
     <message>
         <source>Shutdown now</source>
@@ -498,14 +665,14 @@ Name of the large picture for screen readers</extracomment>
     <message>
         <source>Reason for the restart</source>
         <extracomment>Name of a text for screen readers</extracomment>
-        <translation>Motivo do reinício</translation>
+        <translation>Motivo da reinicialização</translation>
     </message>
 </context>
 <context>
     <name>RemoteConnectionDialog</name>
     <message>
         <source>Remote Control by Corvane</source>
-        <translation>Controlo remoto da Corvane</translation>
+        <translation>Controle remoto da Corvane</translation>
     </message>
     <message>
         <source>Remote Tool Session</source>
@@ -513,7 +680,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>File Transfer Session</source>
-        <translation>Transferência de ficheiros</translation>
+        <translation>Transferência de arquivos</translation>
     </message>
     <message>
         <source>00:00:00</source>
@@ -521,8 +688,8 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>End session</source>
-        <extracomment>Button: stops the remote tools session</extracomment>
-        <translation>Finalizar sessão</translation>
+        <extracomment>Button: stops the session. May be shortened</extracomment>
+        <translation>Encerrar sessão</translation>
     </message>
     <message>
         <source>Close</source>
@@ -531,59 +698,67 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Remote Control Session</source>
-        <translation>Controlo remoto</translation>
+        <translation>Controle remoto</translation>
     </message>
     <message>
         <source>Username</source>
-        <translation>Utilizador</translation>
+        <translation>Usuário</translation>
     </message>
     <message>
         <source>File uploaded</source>
-        <translation>Ficheiro carregado</translation>
+        <extracomment>Upload: from the technician to this computer</extracomment>
+        <translation>Arquivo carregado</translation>
     </message>
     <message>
         <source>Upload aborted</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>Upload interrompido</translation>
     </message>
     <message>
         <source>Upload cancelled</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>Upload cancelado</translation>
     </message>
     <message>
         <source>File downloaded</source>
-        <translation>Ficheiro descarregado</translation>
+        <extracomment>Download: from this computer to the technician</extracomment>
+        <translation>Arquivo baixado</translation>
     </message>
     <message>
         <source>Download aborted</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>Download interrompido</translation>
     </message>
     <message>
         <source>Download cancelled</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>Download cancelado</translation>
     </message>
     <message>
         <source>Folder uploaded</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>Pasta carregada</translation>
     </message>
     <message>
         <source>Folder downloaded</source>
-        <translation>Pasta descarregada</translation>
+        <extracomment>Download: from this computer to the technician</extracomment>
+        <translation>Pasta baixada</translation>
     </message>
     <message>
         <source>File deleted</source>
-        <translation>Ficheiro eliminado</translation>
+        <translation>Arquivo excluído</translation>
     </message>
     <message>
         <source>File renamed</source>
-        <translation>Nome do ficheiro alterado</translation>
+        <translation>Arquivo renomeado</translation>
     </message>
     <message>
         <source>Folder deleted</source>
-        <translation>Pasta eliminada</translation>
+        <translation>Pasta excluída</translation>
     </message>
     <message>
         <source>Folder renamed</source>
-        <translation>Nome da pasta alterado</translation>
+        <translation>Pasta renomeada</translation>
     </message>
     <message>
         <source>Folder created</source>
@@ -591,7 +766,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Process ended</source>
-        <translation>Processo terminado</translation>
+        <translation>Processo encerrado</translation>
     </message>
     <message>
         <source>Service started</source>
@@ -599,7 +774,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Service stopped</source>
-        <translation>Serviço parado</translation>
+        <translation>Serviço interrompido</translation>
     </message>
     <message>
         <source>Service restarted</source>
@@ -607,7 +782,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Service paused</source>
-        <translation>Serviço em pausa</translation>
+        <translation>Serviço pausado</translation>
     </message>
     <message>
         <source>Service resumed</source>
@@ -629,19 +804,25 @@ Name of the large picture for screen readers</extracomment>
     <message>
         <source>Show or hide the activity log</source>
         <extracomment>Of an arrow, for screen readers</extracomment>
-        <translation>Mostrar ou ocultar o registo de atividade</translation>
+        <translation>Mostrar ou ocultar o log de atividades</translation>
     </message>
     <message>
         <source>Activity log</source>
         <extracomment>What is done on this computer during the session</extracomment>
-        <translation>Registo de atividade</translation>
+        <translation>Log de atividades</translation>
+    </message>
+    <message>
+        <source>End session</source>
+        <comment>in full</comment>
+        <extracomment>Name of the button for screen readers, never shortened</extracomment>
+        <translation>Encerrar sessão</translation>
     </message>
 </context>
 <context>
     <name>ServiceDeskTicketDialog</name>
     <message>
         <source>Brisel Tavik: Submit Ticket</source>
-        <translation>Brisel Tavik: Enviar ticket</translation>
+        <translation>Brisel Tavik: Enviar chamado</translation>
     </message>
     <message>
         <source>Tavik</source>
@@ -650,7 +831,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Please fill in the fields below and describe details of your issue:</source>
-        <translation>Preencha os campos abaixo e descreva o seu problema em detalhe:</translation>
+        <translation>Preencha os campos abaixo e descreva seu problema em detalhes:</translation>
     </message>
     <message>
         <source>Issue Summary</source>
@@ -670,11 +851,11 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Include device data (brand, model, serial number, logged on user, domain/workgroup)</source>
-        <translation>Incluir dados do dispositivo (marca, modelo, número de série, utilizador com sessão iniciada, domínio/grupo de trabalho)</translation>
+        <translation>Incluir dados do dispositivo (marca, modelo, número de série, usuário conectado, domínio/grupo de trabalho)</translation>
     </message>
     <message>
         <source>Note: Company, Device Name and Owner are included by default.</source>
-        <translation>Nota: a empresa, o nome do dispositivo e o proprietário são incluídos automaticamente.</translation>
+        <translation>Observação: a empresa, o nome do dispositivo e o proprietário são incluídos por padrão.</translation>
     </message>
     <message>
         <source>Submit</source>
@@ -699,11 +880,11 @@ Name of the large picture for screen readers</extracomment>
     <message>
         <source>Submit ticket</source>
         <extracomment>Title of the dialog</extracomment>
-        <translation>Enviar ticket</translation>
+        <translation>Enviar chamado</translation>
     </message>
     <message>
         <source>Ticket not submitted</source>
-        <translation>Ticket não enviado</translation>
+        <translation>Chamado não enviado</translation>
     </message>
     <message>
         <source>Do you want to discard all changes?</source>
@@ -724,7 +905,7 @@ Name of the large picture for screen readers</extracomment>
     <name>ZentPasswordDialog</name>
     <message>
         <source>Brisel Tavik Login</source>
-        <translation>Brisel Tavik – Iniciar sessão</translation>
+        <translation>Brisel Tavik – Login</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -737,12 +918,12 @@ Name of the large picture for screen readers</extracomment>
     <message>
         <source>You need to enter Zent Custom Password
 in order to continue</source>
-        <translation>É necessário introduzir a senha personalizada do Zent
+        <translation>É necessário inserir a senha personalizada do Zent
 para continuar</translation>
     </message>
     <message>
         <source>Please enter Zent Custom Password</source>
-        <translation>Introduza a senha personalizada do Zent</translation>
+        <translation>Insira a senha personalizada do Zent</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -755,7 +936,7 @@ para continuar</translation>
     <message>
         <source>Enter password</source>
         <extracomment>Kind of dialog, at the right of the caption</extracomment>
-        <translation>Introduzir senha</translation>
+        <translation>Inserir senha</translation>
     </message>
     <message>
         <source>Password</source>

@@ -111,7 +111,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>You need to enroll Tavik by providing host, port and token from Device Enrollment email and pressing &quot;Enroll&quot; button.</source>
-        <translation>Чтобы зарегистрировать Tavik, введите хост, порт и токен из письма о регистрации устройства и нажмите кнопку «Регистрация».</translation>
+        <translation>Чтобы зарегистрировать Tavik, введите хост, порт и токен из&#xa0;письма о&#xa0;регистрации устройства и&#xa0;нажмите кнопку «Регистрация».</translation>
     </message>
     <message>
         <source>Tavik needs to be enrolled
@@ -149,7 +149,7 @@ in order to manage this device</source>
     </message>
     <message>
         <source>Please set up host, port and token from Device Enrollment email.</source>
-        <translation>Введите хост, порт и токен из письма о регистрации устройства.</translation>
+        <translation>Введите хост, порт и токен из&#xa0;письма&#xa0;о&#xa0;регистрации&#xa0;устройства.</translation>
     </message>
     <message>
         <source>Close</source>
@@ -166,13 +166,13 @@ in order to manage this device</source>
     </message>
     <message>
         <source>Allow</source>
-        <extracomment>Button: lets the remote person in</extracomment>
+        <extracomment>Button: lets the remote person in. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
         <translation>Разрешить</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <extracomment>Button: refuses the remote person</extracomment>
-        <translation>Отмена</translation>
+        <extracomment>Button: refuses the remote person, the opposite of &quot;Allow&quot;. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
+        <translation>Отклонить</translation>
     </message>
     <message>
         <source>Remote tools</source>
@@ -192,9 +192,9 @@ in order to manage this device</source>
     <message numerus="yes">
         <source>%n second(s) left to answer</source>
         <translation>
-            <numerusform>Осталась %n секунда на ответ</numerusform>
-            <numerusform>Осталось %n секунды на ответ</numerusform>
-            <numerusform>Осталось %n секунд на ответ</numerusform>
+            <numerusform>На ответ осталась %n секунда</numerusform>
+            <numerusform>На ответ осталось %n секунды</numerusform>
+            <numerusform>На ответ осталось %n секунд</numerusform>
         </translation>
     </message>
 </context>
@@ -220,11 +220,13 @@ in order to manage this device</source>
     </message>
     <message>
         <source>You need to login with your Brisel Tavik online account in order to continue</source>
-        <translation>Чтобы продолжить, войдите в свою сетевую учетную запись Brisel Tavik</translation>
+        <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
+        <translation>Чтобы продолжить, войдите в&#xa0;свой&#xa0;онлайн‑аккаунт&#xa0;Brisel&#xa0;Tavik</translation>
     </message>
     <message>
         <source>Please login with your Brisel Tavik</source>
-        <translation>Войдите с учетной записью Brisel Tavik</translation>
+        <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
+        <translation>Войдите в аккаунт Brisel&#xa0;Tavik</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -454,6 +456,171 @@ Name of the large picture for screen readers</extracomment>
     </message>
 </context>
 <context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>Выделить вс&amp;е</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>&amp;Увеличить</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>У&amp;меньшить</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Отменить</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>Ве&amp;рнуть</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Вырезать</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Копировать</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>В&amp;ставить</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Удалить</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Выделить все</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Discard</source>
+        <translation>Не сохранять</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Прокрутить сюда</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Левый край</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>В начало</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Правый край</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>В конец</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>На страницу влево</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>На страницу вверх</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>На страницу вправо</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>На страницу вниз</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Прокрутить влево</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Прокрутить вверх</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Прокрутить вправо</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Прокрутить вниз</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+</context>
+<context>
+    <name>QUnicodeControlCharacterMenu</name>
+    <message>
+        <source>Insert Unicode control character</source>
+        <translation>Вставить управляющий символ Юникода</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Отменить</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>Ве&amp;рнуть</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Вырезать</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Копировать</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>В&amp;ставить</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Удалить</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Выделить все</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>Копировать &amp;адрес ссылки</translation>
+    </message>
+</context>
+<context>
     <name>RebootDialog</name>
     <message>
         <source>Tavik Reboot</source>
@@ -522,7 +689,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>End session</source>
-        <extracomment>Button: stops the remote tools session</extracomment>
+        <extracomment>Button: stops the session. May be shortened</extracomment>
         <translation>Завершить</translation>
     </message>
     <message>
@@ -540,34 +707,42 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>File uploaded</source>
-        <translation>Файл отправлен</translation>
+        <extracomment>Upload: from the technician to this computer</extracomment>
+        <translation>Файл загружен</translation>
     </message>
     <message>
         <source>Upload aborted</source>
-        <translation>Отправка прервана</translation>
+        <extracomment>Upload: from the technician to this computer</extracomment>
+        <translation>Загрузка прервана</translation>
     </message>
     <message>
         <source>Upload cancelled</source>
-        <translation>Отправка отменена</translation>
+        <extracomment>Upload: from the technician to this computer</extracomment>
+        <translation>Загрузка отменена</translation>
     </message>
     <message>
         <source>File downloaded</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>Файл скачан</translation>
     </message>
     <message>
         <source>Download aborted</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>Скачивание прервано</translation>
     </message>
     <message>
         <source>Download cancelled</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>Скачивание отменено</translation>
     </message>
     <message>
         <source>Folder uploaded</source>
-        <translation>Папка отправлена</translation>
+        <extracomment>Upload: from the technician to this computer</extracomment>
+        <translation>Папка загружена</translation>
     </message>
     <message>
         <source>Folder downloaded</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>Папка скачана</translation>
     </message>
     <message>
@@ -637,6 +812,12 @@ Name of the large picture for screen readers</extracomment>
         <extracomment>What is done on this computer during the session</extracomment>
         <translation>Журнал действий</translation>
     </message>
+    <message>
+        <source>End session</source>
+        <comment>in full</comment>
+        <extracomment>Name of the button for screen readers, never shortened</extracomment>
+        <translation>Завершить сеанс</translation>
+    </message>
 </context>
 <context>
     <name>ServiceDeskTicketDialog</name>
@@ -671,11 +852,11 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Include device data (brand, model, serial number, logged on user, domain/workgroup)</source>
-        <translation>Включить данные об устройстве (марка, модель, серийный номер, текущий пользователь, домен/рабочая группа)</translation>
+        <translation>Приложить данные об устройстве (марка, модель, серийный номер, текущий пользователь, домен/рабочая группа)</translation>
     </message>
     <message>
         <source>Note: Company, Device Name and Owner are included by default.</source>
-        <translation>Примечание. Организация, имя устройства и владелец включаются по умолчанию.</translation>
+        <translation>Примечание. Организация, имя устройства и владелец указываются по умолчанию.</translation>
     </message>
     <message>
         <source>Submit</source>

@@ -5,7 +5,7 @@
     <name>AboutDialog</name>
     <message>
         <source>Brisel Tavik About</source>
-        <translation>Brisel Tavik Hakkında</translation>
+        <translation>Brisel Tavik hakkında</translation>
     </message>
     <message>
         <source>Tavik</source>
@@ -111,7 +111,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>You need to enroll Tavik by providing host, port and token from Device Enrollment email and pressing &quot;Enroll&quot; button.</source>
-        <translation>Tavik’i kaydetmek için cihaz kaydı e-postasındaki sunucu, port ve belirteç bilgilerini girip “Kaydol” düğmesine basmanız gerekir.</translation>
+        <translation>Tavik’i kaydetmek için cihaz kaydı e‑postasındaki sunucu, port ve belirteç bilgilerini girip “Cihazı&#xa0;kaydet” düğmesine basmanız gerekir.</translation>
     </message>
     <message>
         <source>Tavik needs to be enrolled
@@ -130,7 +130,7 @@ Tavik’in kaydedilmesi gerekir</translation>
     <message>
         <source>Enroll</source>
         <extracomment>Both the kind of dialog in its caption and the button that enrolls the device</extracomment>
-        <translation>Kaydol</translation>
+        <translation>Cihazı kaydet</translation>
     </message>
     <message>
         <source>Host:</source>
@@ -149,7 +149,7 @@ Tavik’in kaydedilmesi gerekir</translation>
     </message>
     <message>
         <source>Please set up host, port and token from Device Enrollment email.</source>
-        <translation>Lütfen cihaz kaydı e-postasındaki sunucu, port ve belirteç bilgilerini girin.</translation>
+        <translation>Lütfen cihaz kaydı e‑postasındaki sunucu,&#xa0;port&#xa0;ve&#xa0;belirteç&#xa0;bilgilerini&#xa0;girin.</translation>
     </message>
     <message>
         <source>Close</source>
@@ -166,13 +166,13 @@ Tavik’in kaydedilmesi gerekir</translation>
     </message>
     <message>
         <source>Allow</source>
-        <extracomment>Button: lets the remote person in</extracomment>
+        <extracomment>Button: lets the remote person in. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
         <translation>İzin ver</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <extracomment>Button: refuses the remote person</extracomment>
-        <translation>İptal</translation>
+        <extracomment>Button: refuses the remote person, the opposite of &quot;Allow&quot;. &quot;(12)&quot; may follow, so that the text itself has no &quot;(&quot;</extracomment>
+        <translation>Reddet</translation>
     </message>
     <message>
         <source>Remote tools</source>
@@ -200,7 +200,7 @@ Tavik’in kaydedilmesi gerekir</translation>
     <name>AuthorizationDialog</name>
     <message>
         <source>Brisel Tavik Login</source>
-        <translation>Brisel Tavik – Oturum aç</translation>
+        <translation>Brisel Tavik – Oturum açma</translation>
     </message>
     <message>
         <source>Forgot username or password?</source>
@@ -218,11 +218,13 @@ Tavik’in kaydedilmesi gerekir</translation>
     </message>
     <message>
         <source>You need to login with your Brisel Tavik online account in order to continue</source>
-        <translation>Devam etmek için Brisel Tavik çevrimiçi hesabınızla oturum açmanız gerekir</translation>
+        <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
+        <translation>Devam etmek için Brisel&#xa0;Tavik çevrimiçi hesabınızla oturum&#xa0;açmanız&#xa0;gerekir</translation>
     </message>
     <message>
         <source>Please login with your Brisel Tavik</source>
-        <translation>Lütfen Brisel Tavik hesabınızla oturum açın</translation>
+        <extracomment>The line may break anywhere but inside the product name: join its words by a no-break space</extracomment>
+        <translation>Lütfen Brisel&#xa0;Tavik hesabınızla oturum açın</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -294,7 +296,7 @@ Tavik’in kaydedilmesi gerekir</translation>
     <message>
         <source>Enter password</source>
         <extracomment>Kind of dialog, at the right of the caption</extracomment>
-        <translation>Parola girin</translation>
+        <translation>Parola girişi</translation>
     </message>
     <message>
         <source>Administrator password</source>
@@ -452,6 +454,171 @@ Name of the large picture for screen readers</extracomment>
     </message>
 </context>
 <context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>&amp;Tümünü seç</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>&amp;Artır</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>A&amp;zalt</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Geri al</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Yinele</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Kes</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>K&amp;opyala</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>Ya&amp;pıştır</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Sil</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Tümünü seç</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Discard</source>
+        <translation>Vazgeç</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Buraya kaydır</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Sol kenar</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>En üst</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Sağ kenar</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>En alt</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>Bir sayfa sola</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Bir sayfa yukarı</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>Bir sayfa sağa</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Bir sayfa aşağı</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Sola kaydır</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Yukarı kaydır</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Sağa kaydır</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Aşağı kaydır</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+</context>
+<context>
+    <name>QUnicodeControlCharacterMenu</name>
+    <message>
+        <source>Insert Unicode control character</source>
+        <translation>Unicode denetim karakteri ekle</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Geri al</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Yinele</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Kes</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>K&amp;opyala</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>Ya&amp;pıştır</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Sil</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Tümünü seç</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>&amp;Bağlantı adresini kopyala</translation>
+    </message>
+</context>
+<context>
     <name>RebootDialog</name>
     <message>
         <source>Tavik Reboot</source>
@@ -504,7 +671,7 @@ Name of the large picture for screen readers</extracomment>
     <name>RemoteConnectionDialog</name>
     <message>
         <source>Remote Control by Corvane</source>
-        <translation>Corvane Uzaktan Denetim</translation>
+        <translation>Corvane uzaktan denetimi</translation>
     </message>
     <message>
         <source>Remote Tool Session</source>
@@ -520,7 +687,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>End session</source>
-        <extracomment>Button: stops the remote tools session</extracomment>
+        <extracomment>Button: stops the session. May be shortened</extracomment>
         <translation>Oturumu bitir</translation>
     </message>
     <message>
@@ -538,34 +705,42 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>File uploaded</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>Dosya karşıya yüklendi</translation>
     </message>
     <message>
         <source>Upload aborted</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>Yükleme kesildi</translation>
     </message>
     <message>
         <source>Upload cancelled</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>Yükleme iptal edildi</translation>
     </message>
     <message>
         <source>File downloaded</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>Dosya indirildi</translation>
     </message>
     <message>
         <source>Download aborted</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>İndirme kesildi</translation>
     </message>
     <message>
         <source>Download cancelled</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>İndirme iptal edildi</translation>
     </message>
     <message>
         <source>Folder uploaded</source>
+        <extracomment>Upload: from the technician to this computer</extracomment>
         <translation>Klasör karşıya yüklendi</translation>
     </message>
     <message>
         <source>Folder downloaded</source>
+        <extracomment>Download: from this computer to the technician</extracomment>
         <translation>Klasör indirildi</translation>
     </message>
     <message>
@@ -635,12 +810,18 @@ Name of the large picture for screen readers</extracomment>
         <extracomment>What is done on this computer during the session</extracomment>
         <translation>Etkinlik günlüğü</translation>
     </message>
+    <message>
+        <source>End session</source>
+        <comment>in full</comment>
+        <extracomment>Name of the button for screen readers, never shortened</extracomment>
+        <translation>Oturumu bitir</translation>
+    </message>
 </context>
 <context>
     <name>ServiceDeskTicketDialog</name>
     <message>
         <source>Brisel Tavik: Submit Ticket</source>
-        <translation>Brisel Tavik: Talep gönder</translation>
+        <translation>Brisel Tavik: Talep gönderme</translation>
     </message>
     <message>
         <source>Tavik</source>
@@ -688,17 +869,17 @@ Name of the large picture for screen readers</extracomment>
     <message>
         <source>Required</source>
         <extracomment>Placeholder of an empty field that must be filled in</extracomment>
-        <translation>Gerekli</translation>
+        <translation>Zorunlu</translation>
     </message>
     <message>
         <source>Required (max. %1 chars)</source>
         <extracomment>Placeholder of an empty field that must be filled in</extracomment>
-        <translation>Gerekli (en fazla %1 karakter)</translation>
+        <translation>Zorunlu (en fazla %1 karakter)</translation>
     </message>
     <message>
         <source>Submit ticket</source>
         <extracomment>Title of the dialog</extracomment>
-        <translation>Talep gönder</translation>
+        <translation>Talep gönderme</translation>
     </message>
     <message>
         <source>Ticket not submitted</source>
@@ -706,7 +887,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Do you want to discard all changes?</source>
-        <translation>Tüm değişiklikler atılsın mı?</translation>
+        <translation>Tüm değişikliklerden vazgeçilsin mi?</translation>
     </message>
     <message>
         <source>Ok</source>
@@ -723,7 +904,7 @@ Name of the large picture for screen readers</extracomment>
     <name>ZentPasswordDialog</name>
     <message>
         <source>Brisel Tavik Login</source>
-        <translation>Brisel Tavik – Oturum aç</translation>
+        <translation>Brisel Tavik – Oturum açma</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -754,7 +935,7 @@ Zent özel parolasını girmeniz gerekir</translation>
     <message>
         <source>Enter password</source>
         <extracomment>Kind of dialog, at the right of the caption</extracomment>
-        <translation>Parola girin</translation>
+        <translation>Parola girişi</translation>
     </message>
     <message>
         <source>Password</source>
