@@ -16,6 +16,8 @@ target_compile_definitions(compile_settings INTERFACE
 if(MSVC)
     target_compile_options(compile_settings INTERFACE
         /W4 /permissive- /utf-8 $<$<BOOL:${GUI_WERROR}>:/WX>
+        # A dialog inherits show(), hide() and others from its base by dominance, on purpose.
+        /wd4250
         /sdl /guard:cf)
     target_link_options(compile_settings INTERFACE
         /guard:cf /DYNAMICBASE /NXCOMPAT $<$<EQUAL:${CMAKE_SIZEOF_VOID_P},8>:/HIGHENTROPYVA>)
@@ -24,11 +26,12 @@ else()
         -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wundef
         $<$<BOOL:${GUI_WERROR}>:-Werror>
         -fstack-protector-strong)
-    # MinGW links the library behind it by the same switch.
-    target_link_options(compile_settings INTERFACE -fstack-protector-strong)
     # Needs an optimising build.
     target_compile_definitions(compile_settings INTERFACE $<$<NOT:$<CONFIG:Debug>>:_FORTIFY_SOURCE=2>)
     if(WIN32)
+        # The stack protector and _FORTIFY_SOURCE need MinGW's libssp. Linked in, because -fstack-protector-strong as a
+        # linker's option would need its DLL, which no Windows machine has.
+        target_link_libraries(compile_settings INTERFACE -l:libssp.a)
         target_link_options(compile_settings INTERFACE
             LINKER:--dynamicbase,--nxcompat $<$<EQUAL:${CMAKE_SIZEOF_VOID_P},8>:LINKER:--high-entropy-va>)
     elseif(NOT APPLE)

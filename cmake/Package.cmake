@@ -15,6 +15,7 @@ if(TARGET guihost)
     install(TARGETS guihost RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
 endif()
 # The guide shows the pictures that the tests compare with; installed, they lie beside it.
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS docs/host-guide.md)
 file(READ docs/host-guide.md guide)
 string(REPLACE "../tests/pictures/" "pictures/" guide "${guide}")
 file(WRITE "${PROJECT_BINARY_DIR}/host-guide.md" "${guide}")

@@ -64,9 +64,11 @@ T fromJson(const QJsonValue& value)
     } else if constexpr (std::is_floating_point_v<T>) {
         require(value.isDouble(), "a number");
         return static_cast<T>(value.toDouble());
-    } else if (std::is_same_v<T, qint64> && value.isString()) {
-        return static_cast<T>(pointInTime(value.toString()));
     } else {
+        if constexpr (std::is_same_v<T, qint64>) {
+            if (value.isString())
+                return pointInTime(value.toString());
+        }
         const double number = value.toDouble();
         // The upper limit of 64 bits is no double; the next one above it is.
         require(value.isDouble() && number == std::floor(number)

@@ -1,22 +1,26 @@
 #include "LineReader.h"
 
-#include <QFile>
+#include <cstdio>
 
-LineReader::LineReader(std::FILE* inputFile, QObject* parent) : QThread(parent), file(inputFile) { }
+LineReader::LineReader(const QString& path, QObject* parent) : QThread(parent), input(path) { }
 
 LineReader::~LineReader()
 {
-    // A read that still waits for input nobody needs any more cannot be ended otherwise.
+    // A read that waits for input which nobody needs any more can be ended in no other way.
     if (isRunning())
         terminate();
     wait();
 }
 
+bool LineReader::open()
+{
+    if (input.fileName() == QLatin1String("-"))
+        return input.open(stdin, QIODevice::ReadOnly);
+    return input.open(QIODevice::ReadOnly);
+}
+
 void LineReader::run()
 {
-    QFile input;
-    if (!input.open(file, QIODevice::ReadOnly))
-        return;
     for (QByteArray line = input.readLine(); !line.isEmpty(); line = input.readLine())
         Q_EMIT lineRead(line);
 }

@@ -1,17 +1,19 @@
 #pragma once
 
+#include <QFile>
 #include <QThread>
-
-#include <cstdio>
 
 /// Reads lines in the background, so that dialogs stay alive while the next command is still being typed or sent.
 class LineReader : public QThread {
     Q_OBJECT
 
 public:
-    /// Reads from @p file until its end. Does not close it.
-    explicit LineReader(std::FILE* file, QObject* parent = nullptr);
+    /// Reads from the file at @p path, or from standard input if that is "-".
+    explicit LineReader(const QString& path, QObject* parent = nullptr);
     ~LineReader() override;
+
+    /// Opens the input; to be called before start(). False if it cannot be read.
+    bool open();
 
 Q_SIGNALS:
     void lineRead(const QByteArray& line);
@@ -20,5 +22,5 @@ protected:
     void run() override;
 
 private:
-    std::FILE* const file;
+    QFile input;
 };

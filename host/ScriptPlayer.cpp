@@ -13,7 +13,7 @@
 #include <QPushButton>
 #include <QTest>
 
-#include <memory>
+#include <algorithm>
 
 namespace {
 constexpr int defaultLimit = 10000; // milliseconds
@@ -226,7 +226,13 @@ void ScriptPlayer::get(const QJsonObject& command)
     }
     if (!family.attach(gui, &receiver, family.receiverSlot.constData(), id))
         throw ScriptError(QStringLiteral("%1 could not be attached").arg(family.name));
-    instances.append({&family, id, dialog, dynamic_cast<QWidget*>(dialog)});
+    // A deleted dialog may have stood at the same address; its events are not this one's.
+    const auto isStale = [dialog](const DialogEvent& event) { return event.sender == dialog; };
+    unconsumedEvents.erase(std::remove_if(unconsumedEvents.begin(), unconsumedEvents.end(), isStale),
+                           unconsumedEvents.end());
+    auto* window = dynamic_cast<QWidget*>(dialog);
+    window->installEventFilter(this);
+    instances.append({&family, id, dialog, window});
 }
 
 void ScriptPlayer::set(const QJsonObject& command)
@@ -260,6 +266,9 @@ void ScriptPlayer::log(const QJsonObject& command)
 
 void ScriptPlayer::expect(const QJsonObject& command)
 {
+    // The person may well have typed and chosen something else.
+    if (mode == Mode::Attended)
+        return;
     const Instance& target = instance(command);
     const QJsonObject values = target.family->values(*target.dialog);
     const QJsonObject properties = command.value(QLatin1String("properties")).toObject();
@@ -395,12 +404,17 @@ void ScriptPlayer::wait(const QJsonObject& command)
     const int event = family.events.key(eventName, -1);
     if (event < 0)
         throw ScriptError(QStringLiteral("%1 has no event \"%2\"").arg(family.name, eventName));
+    const int within = milliseconds(command, "within", defaultLimit);
     expected = {family.name, command.value(QLatin1String("id")).toString(), event, eventName};
     if (takeExpectedEvent())
         return;
+    // A dialog that was not got sends no events: an error, instead of waiting for ever.
+    instance(command);
     waiting = true;
     if (mode == Mode::Unattended)
-        limit.start(milliseconds(command, "within", defaultLimit));
+        limit.start(within);
+    else
+        lookForAnswerLater();
 }
 
 void ScriptPlayer::pause(const QJsonObject& command)
@@ -416,7 +430,11 @@ void ScriptPlayer::pause(const QJsonObject& command)
 void ScriptPlayer::picture(const QJsonObject& command)
 {
     const Instance& target = instance(command);
-    const QString path = pictureDirectory.filePath(text(command, "file") + QStringLiteral(".png"));
+    const QString file = text(command, "file");
+    const auto leavesDirectory = [](QChar c) { return QStringLiteral("/\\:").contains(c); };
+    if (file.isEmpty() || std::any_of(file.cbegin(), file.cend(), leavesDirectory))
+        throw ScriptError(QStringLiteral("\"file\" must be a name without a directory"));
+    const QString path = pictureDirectory.filePath(file + QStringLiteral(".png"));
     // Zero-delay timers and polishing have their turn before the shutter.
     QCoreApplication::processEvents();
     if (!target.window)
@@ -440,17 +458,48 @@ void ScriptPlayer::onEvent(const DialogEvent& event)
     Q_EMIT output(object);
 
     unconsumedEvents.append(event);
+    lookForAnswerLater();
+}
+
+bool ScriptPlayer::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Hide)
+        lookForAnswerLater();
+    return QObject::eventFilter(watched, event);
+}
+
+void ScriptPlayer::lookForAnswerLater()
+{
+    // A dialog may hide before it tells why.
+    QMetaObject::invokeMethod(this, &ScriptPlayer::lookForAnswer, Qt::QueuedConnection);
+}
+
+void ScriptPlayer::lookForAnswer()
+{
     if (!waiting || expected.event < 0)
         return;
-    if (takeExpectedEvent()) {
+    if (takeExpectedEvent())
         limit.stop();
-    } else if (mode == Mode::Attended && event.dialog == expected.dialog) {
-        // The person decided otherwise; the rest of the story tells of something that did not happen.
-        storyOver = true;
-    } else {
+    else if (mode == Mode::Attended && isAnsweredOtherwise())
+        storyOver = true; // Its rest tells of something that did not happen.
+    else
         return;
-    }
     resume();
+}
+
+bool ScriptPlayer::isAnsweredOtherwise() const
+{
+    for (const Instance& instance : instances) {
+        if (instance.family->name != expected.dialog || instance.id != expected.id || !instance.window)
+            continue;
+        // The events of the session window are no answers; sessions come and go in it as long as it is shown.
+        const auto isAnswer = [&instance](const DialogEvent& event) {
+            return event.sender == instance.dialog && event.sessionId.isNull();
+        };
+        return !instance.window->isVisible()
+            || std::any_of(unconsumedEvents.cbegin(), unconsumedEvents.cend(), isAnswer);
+    }
+    return true;
 }
 
 bool ScriptPlayer::takeExpectedEvent()

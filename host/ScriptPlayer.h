@@ -23,7 +23,8 @@ class ScriptPlayer : public QObject {
 public:
     enum class Mode {
         Unattended, ///< Clicks, keys and limits are played; pauses are skipped.
-        Attended,   ///< A person answers: clicks and keys are skipped, waiting has no limit, pauses are kept.
+        Attended,   ///< A person answers: clicks, keys and expectations are skipped, waiting has no limit, pauses are
+                    ///< kept. The story ends when the person answers otherwise or closes the dialog waited for.
     };
 
     ScriptPlayer(GuiInterface& gui, Mode mode, const QDir& pictureDirectory, QObject* parent = nullptr);
@@ -37,6 +38,8 @@ public:
 
     /// How many lines were wrong or failed so far.
     int errorCount() const;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
     /// Something to print: an event, a result or a picture.
@@ -98,7 +101,11 @@ private:
     void picture(const QJsonObject& command);
 
     void onEvent(const DialogEvent& event);
+    void lookForAnswerLater();
+    /// Goes on when what a "wait" waits for has come, or will not come any more.
+    void lookForAnswer();
     bool takeExpectedEvent();
+    bool isAnsweredOtherwise() const;
     void onWaitedTooLong();
 
     struct Command {

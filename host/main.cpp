@@ -1,8 +1,10 @@
+#include "DialogCatalogue.h"
 #include "Gallery.h"
 #include "GuiInterface.h"
 #include "LineReader.h"
 #include "PseudoTranslator.h"
 #include "ScriptPlayer.h"
+#include "Surroundings.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -10,7 +12,8 @@
 #include <QPluginLoader>
 #include <QTextStream>
 
-#include <cstdio>
+#include <cmath>
+#include <utility>
 
 namespace {
 enum ExitCode {
@@ -25,10 +28,23 @@ int complain(const QString& message, ExitCode code)
     return code;
 }
 
+QStringList dialogNames()
+{
+    QStringList names;
+    for (const Family& family : dialogFamilies())
+        names << family.name;
+    return names;
+}
+
+QStringList languages()
+{
+    return QStringLiteral(LANGUAGES " pseudo").split(QLatin1Char(' '));
+}
+
 int run(GuiInterface& gui, const QString& path, ScriptPlayer::Mode mode, const QDir& pictures)
 {
-    std::FILE* file = path == QLatin1String("-") ? stdin : std::fopen(QFile::encodeName(path).constData(), "rb");
-    if (!file)
+    LineReader reader(path);
+    if (!reader.open())
         return complain(QStringLiteral("cannot read %1").arg(path), Failure);
 
     ScriptPlayer player(gui, mode, pictures);
@@ -40,7 +56,6 @@ int run(GuiInterface& gui, const QString& path, ScriptPlayer::Mode mode, const Q
     });
     QObject::connect(&player, &ScriptPlayer::finished, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
 
-    LineReader reader(file);
     QObject::connect(&reader, &LineReader::lineRead, &player, &ScriptPlayer::addLine);
     QObject::connect(&reader, &LineReader::finished, &player, &ScriptPlayer::endInput);
     reader.start();
@@ -57,21 +72,11 @@ void useOffscreenWithoutDisplay()
             return;
     }
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    // The resolution to which the dialogs' fixed geometry belongs; this platform has another one.
-    if (qEnvironmentVariableIsEmpty("QT_FONT_DPI"))
-        qputenv("QT_FONT_DPI", "96");
 #endif
 }
-} // namespace
 
-int main(int argc, char** argv)
+void addOptions(QCommandLineParser& parser)
 {
-    useOffscreenWithoutDisplay();
-    QApplication application(argc, argv);
-    QCoreApplication::setApplicationName(QStringLiteral("guihost"));
-    QApplication::setQuitOnLastWindowClosed(false);
-
-    QCommandLineParser parser;
     parser.setApplicationDescription(
         QStringLiteral("Loads the dialog plugin and drives its dialogs as an agent does.\n\n"
                        "  guihost run FILE      play a script of JSON Lines, \"-\" for standard input\n"
@@ -81,10 +86,10 @@ int main(int argc, char** argv)
     parser.addPositionalArgument(QStringLiteral("target"), QStringLiteral("the script or the directory"));
     parser.addOptions({
         {QStringLiteral("library"), QStringLiteral("The plugin; beside this program by default."),
-         QStringLiteral("path"), QCoreApplication::applicationDirPath() + QStringLiteral("/Gui")},
+         QStringLiteral("path")},
         {QStringLiteral("language"),
-         QStringLiteral(
-             "Two-letter language of the dialogs (not on Windows), or \"pseudo\": longer, accented English."),
+         QStringLiteral("Language of the dialogs (not on Windows): %1. \"pseudo\" is longer, accented English.")
+             .arg(languages().join(QLatin1Char(' '))),
          QStringLiteral("code")},
         {QStringLiteral("ratio"), QStringLiteral("Scale factor of the dialogs."), QStringLiteral("number"),
          QStringLiteral("1")},
@@ -93,33 +98,71 @@ int main(int argc, char** argv)
          QStringLiteral(".")},
         {QStringLiteral("attended"), QStringLiteral("A person answers: skip the script's clicks and keys.")},
     });
-    parser.process(application);
+}
+
+/// What is wrong with the arguments; empty if nothing is.
+QString mistake(const QCommandLineParser& parser)
+{
     const QStringList arguments = parser.positionalArguments();
-    bool ratioIsNumber = false;
-    const float ratio = parser.value(QStringLiteral("ratio")).toFloat(&ratioIsNumber);
-    if (arguments.size() != 2 || !ratioIsNumber)
-        return complain(QStringLiteral("see guihost --help"), Usage);
+    if (arguments.size() != 2)
+        return QStringLiteral("expected a command and its target, see guihost --help");
+    if (arguments.at(0) != QLatin1String("run") && arguments.at(0) != QLatin1String("gallery"))
+        return QStringLiteral("unknown command \"%1\", see guihost --help").arg(arguments.at(0));
+    for (const auto& option : {std::make_pair(QStringLiteral("language"), languages()),
+                               std::make_pair(QStringLiteral("dialog"), dialogNames())}) {
+        const QString value = parser.value(option.first);
+        if (parser.isSet(option.first) && !option.second.contains(value))
+            return QStringLiteral("unknown %1 \"%2\"; there are: %3")
+                .arg(option.first, value, option.second.join(QLatin1Char(' ')));
+    }
+    const float ratio = parser.value(QStringLiteral("ratio")).toFloat();
+    if (!std::isfinite(ratio) || ratio <= 0.0F)
+        return QStringLiteral("the ratio \"%1\" is not a positive number").arg(parser.value(QStringLiteral("ratio")));
+    return QString();
+}
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QCommandLineParser parser;
+    addOptions(parser);
+    // The language has a say in the fonts, which the application looks up when it is created.
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
+    parser.parse(arguments);
+    const QString language = parser.value(QStringLiteral("language"));
+    const bool isPseudo = language == QLatin1String("pseudo");
+    useOffscreenWithoutDisplay();
+    prepareSurroundings(isPseudo ? QString() : language);
+
+    QApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("guihost"));
+    QApplication::setQuitOnLastWindowClosed(false);
+    parser.process(application);
+    const QString wrong = mistake(parser);
+    if (!wrong.isEmpty())
+        return complain(wrong, Usage);
 
     // The plugin chooses its language when it is loaded.
-    if (parser.isSet(QStringLiteral("language")))
-        qputenv("LANGUAGE", parser.value(QStringLiteral("language")).toUtf8());
-    QPluginLoader loader(parser.value(QStringLiteral("library")));
+    if (!language.isEmpty())
+        qputenv("LANGUAGE", language.toUtf8());
+    const QString library = parser.isSet(QStringLiteral("library"))
+        ? parser.value(QStringLiteral("library"))
+        : QCoreApplication::applicationDirPath() + QStringLiteral("/Gui");
+    QPluginLoader loader(library);
     auto* gui = qobject_cast<GuiInterface*>(loader.instance());
     if (!gui)
-        return complain(loader.errorString(), Failure);
-    gui->setRatio(ratio);
+        return complain(QStringLiteral("cannot load %1: %2").arg(library, loader.errorString()), Failure);
+    gui->setRatio(parser.value(QStringLiteral("ratio")).toFloat());
     PseudoTranslator pseudoTranslator;
-    if (parser.value(QStringLiteral("language")) == QLatin1String("pseudo"))
+    if (isPseudo)
         QCoreApplication::installTranslator(&pseudoTranslator);
 
-    const QString command = arguments.at(0);
-    const QString target = arguments.at(1);
-    if (command == QLatin1String("gallery"))
+    const QString target = parser.positionalArguments().at(1);
+    if (parser.positionalArguments().at(0) == QLatin1String("gallery"))
         return renderGallery(*gui, QDir(target), parser.value(QStringLiteral("dialog"))) == 0 ? Success : Failure;
-    if (command == QLatin1String("run")) {
-        const auto mode =
-            parser.isSet(QStringLiteral("attended")) ? ScriptPlayer::Mode::Attended : ScriptPlayer::Mode::Unattended;
-        return run(*gui, target, mode, QDir(parser.value(QStringLiteral("pictures"))));
-    }
-    return complain(QStringLiteral("unknown command \"%1\"").arg(command), Usage);
+    const auto mode =
+        parser.isSet(QStringLiteral("attended")) ? ScriptPlayer::Mode::Attended : ScriptPlayer::Mode::Unattended;
+    return run(*gui, target, mode, QDir(parser.value(QStringLiteral("pictures"))));
 }

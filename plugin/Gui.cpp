@@ -15,12 +15,11 @@
 #include "ZentPasswordDialog.h"
 #include "loadTranslation.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QFile>
 #include <QMetaMethod>
 #include <QTranslator>
 
-#include <cmath>
 #include <type_traits>
 
 namespace {
@@ -49,6 +48,15 @@ QByteArray eventSignal(const QMetaObject& metaObject)
     }
     return QByteArray();
 }
+
+/// Without a QApplication Qt ends the process as soon as a widget is created.
+bool hasApplication()
+{
+    if (qobject_cast<QApplication*>(QCoreApplication::instance()))
+        return true;
+    qCritical("there are no dialogs without a QApplication: create it before this library is loaded");
+    return false;
+}
 } // namespace
 
 Gui::Gui()
@@ -60,8 +68,7 @@ Gui::~Gui() = default;
 
 void Gui::setRatio(float newRatio)
 {
-    if (std::isfinite(newRatio) && newRatio > 0.0F)
-        ratio = newRatio;
+    ratio = newRatio;
 }
 
 float Gui::getRatio() const
@@ -75,6 +82,8 @@ Dialog* Gui::get(const QString& id)
     // Looked up without the id: a prompt that is kept per id is therefore created anew at every call.
     if (BaseDialog* existing = dialogs[registryKey<Dialog>(QString())])
         return static_cast<Dialog*>(existing);
+    if (!hasApplication())
+        return nullptr;
 
     auto* dialog = create<Dialog>();
     if constexpr (std::is_same_v<Dialog, ApproveRemoteConnectionDialog>)

@@ -1,5 +1,6 @@
 #include "GuiTest.h"
 
+#include <QAccessible>
 #include <QClipboard>
 #include <QLabel>
 #include <QLineEdit>
@@ -23,9 +24,7 @@ private Q_SLOTS:
     void textIsReturnedAsTyped();
     void passwordEditing();
     void fieldsFollowTheirText();
-    void reminderLink();
     void accessModes();
-    void firstFieldIsOfTheChosenWay();
     void accessModeMovesTheChoice();
     void choosingByClickAndKey();
     void attachments();
@@ -55,8 +54,26 @@ void CredentialsTest::textIsReturnedAsTyped()
     QTest::keyClicks(&edit, text);
     const QString getter = QStringLiteral("get") + property.at(0).toUpper() + property.mid(1);
     QCOMPARE(dialogFamily(name).operation(getter).call(*dialog, {}).toString(), text);
-    if (!property.endsWith(QLatin1String("assword"))) {
+    paste(edit, QStringLiteral("\r\none\ntwo\u2028"));
+    const bool isPassword = property.endsWith(QLatin1String("assword"));
+    QCOMPARE(edit.text(), text + (isPassword ? QStringLiteral("onetwo") : QStringLiteral("one two")));
+    // Qt's own answer to the question for the last word never ends.
+    QAccessibleTextInterface* told = QAccessible::queryAccessibleInterface(&edit)->textInterface();
+    int start = 0;
+    int end = 0;
+    for (int offset = -1; offset <= edit.text().size(); ++offset) {
+        for (int boundary = QAccessible::CharBoundary; boundary <= QAccessible::NoBoundary; ++boundary) {
+            const auto type = static_cast<QAccessible::TextBoundaryType>(boundary);
+            told->textBeforeOffset(offset, type, &start, &end);
+            told->textAfterOffset(offset, type, &start, &end);
+            const QString found = told->textAtOffset(offset, type, &start, &end);
+            QCOMPARE(found, start < 0 || isPassword ? QString() : edit.text().mid(start, end - start));
+        }
+    }
+    if (!isPassword) {
         QCOMPARE(edit.echoMode(), QLineEdit::Normal);
+        QTest::keySequence(&edit, QKeySequence::Undo);
+        QCOMPARE(edit.text(), text);
         return;
     }
 
@@ -119,26 +136,6 @@ void CredentialsTest::fieldsFollowTheirText()
     check("ZentPasswordDialog", "edPassword", "password", "btnContinue");
 }
 
-void CredentialsTest::reminderLink()
-{
-    auto* dialog = show<IAuthorizationDialog>();
-    // By keyboard the link is one step away, from both sides.
-    child(dialog, "btnCancel").setFocus();
-    press(dialog, Qt::Key_Tab);
-    checkEvents(dialog, QStringLiteral("Return"), QStringLiteral("evGoToWeb"));
-    press(dialog, Qt::Key_Tab);
-    press(dialog, Qt::Key_Backtab, Qt::ShiftModifier);
-    checkEvents(dialog, QStringLiteral("Enter"), QStringLiteral("evGoToWeb"));
-    press(dialog, Qt::Key_Backtab, Qt::ShiftModifier);
-    QVERIFY(child(dialog, "btnCancel").hasFocus());
-    const auto& label = child<QLabel>(dialog, "lblWebLink");
-    QVERIFY(label.text().contains(QStringLiteral("#act=Remind\"")));
-    QVERIFY(!label.openExternalLinks());
-    gui().deleteAuthorizationDialogInstance();
-    settle();
-    QVERIFY(messages().contains(QStringLiteral("AuthorizationDialog::~AuthorizationDialog()")));
-}
-
 void CredentialsTest::accessModes()
 {
     using Limits = std::numeric_limits<int>;
@@ -158,28 +155,6 @@ void CredentialsTest::accessModes()
         QCOMPARE(dialog->isCustomPasswordSelected(), mode == 1);
         gui().deleteEnterPasswordDialogInstance();
     }
-}
-
-void CredentialsTest::firstFieldIsOfTheChosenWay()
-{
-    auto* dialog = get<IEnterPasswordDialog>();
-    for (const bool custom : {false, true}) {
-        for (const int mode : {custom ? 1 : 0, 2}) {
-            dialog->setAccessMode(mode);
-            dialog->setCustomPasswordSelected(custom);
-            showActive(dialog);
-            QCOMPARE(window(dialog).focusWidget(), &child(dialog, custom ? "editZentPassword" : "editDomain"));
-            // Its buttons report; a request to close just hides it.
-            window(dialog).close();
-            QVERIFY(!window(dialog).isVisible());
-        }
-    }
-    QCOMPARE(takeEvents(), QStringList());
-    // The choice stays with the other way, which cannot be typed into any more.
-    dialog->setAccessMode(0);
-    QVERIFY(dialog->isCustomPasswordSelected());
-    showActive(dialog);
-    QCOMPARE(window(dialog).focusWidget(), &child(dialog, "editDomain"));
 }
 
 void CredentialsTest::accessModeMovesTheChoice()
@@ -212,6 +187,20 @@ void CredentialsTest::choosingByClickAndKey()
     QTest::keyClick(&administrator, Qt::Key_Down);
     QVERIFY(custom.isChecked() && custom.hasFocus() && dialog->isCustomPasswordSelected());
     checkEvents(dialog, QStringLiteral("Return"), QStringLiteral("evOk"));
+
+    // Qt has taken the other button out of the tab order.
+    dialog->setAccessMode(0);
+    child(dialog, "editDomain").setFocus();
+    QVERIFY(tabOrder(dialog).contains(administrator.objectName()));
+    dialog->setAccessMode(2);
+    QTest::keyClick(&child(dialog, "editLogin"), Qt::Key_A);
+    QVERIFY(!dialog->isCustomPasswordSelected());
+    QTest::keyClick(&child(dialog, "editZentPassword"), Qt::Key_A);
+    QVERIFY(dialog->isCustomPasswordSelected());
+
+    // Its buttons report; a request to close just hides it.
+    window(dialog).close();
+    QVERIFY(!window(dialog).isVisible() && takeEvents().isEmpty());
 }
 
 void CredentialsTest::attachments()

@@ -1,6 +1,9 @@
 #include "GuiTest.h"
 
+#include <QAbstractButton>
 #include <QJsonDocument>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMetaEnum>
 #include <QScreen>
 
@@ -127,24 +130,63 @@ void DialogsTest::events()
 
 void DialogsTest::shownAgain_data()
 {
-    textColumns({"family", "event"});
-    textRow({"ErrorMessageDialog", "evTryAgain"});
-    textRow({"ProgressDialog", ""});
+    textColumns({"family", "values", "start"});
+    textRow({"ErrorMessageDialog", "", "ErrorMessageDialog"});
+    textRow({"AcceptMessageDialog", "", "btnMessageInnerButton"});
+    textRow({"ProgressDialog", "", "ProgressDialog"});
+    textRow({"RebootDialog", "", "timeoutComboBox"});
+    textRow({"AboutDialog", "", "btnOk"});
+    textRow({"AuthorizationDialog", R"({"password": "x"})", "edEmail"});
+    textRow({"AuthorizationDialog", R"({"username": "anna"})", "edPassword"});
+    textRow({"AuthorizationDialog", R"({"username": "anna", "password": "x"})", "edPassword selected"});
+    textRow({"ActivationDialog", R"({"token": "x"})", "edHost"});
+    textRow({"ActivationDialog", R"({"serverUrl": "https://a", "token": "x"})", "edHost selected"});
+    textRow({"ZentPasswordDialog", R"({"password": "x"})", "edPassword selected"});
+    textRow({"EnterPasswordDialog", R"({"domain": "d"})", "editLogin"});
+    textRow({"EnterPasswordDialog", R"({"domain": "d", "login": "l", "administratorPassword": "x"})",
+             "editAdministratorPassword selected"});
+    textRow({"EnterPasswordDialog", R"({"accessMode": 1, "zentPassword": "x"})", "editZentPassword selected"});
+    textRow({"EnterPasswordDialog", R"({"customPasswordSelected": true})", "editZentPassword"});
+    textRow({"EnterPasswordDialog", R"({"accessMode": 0, "customPasswordSelected": true})", "editDomain"});
+    textRow({"OptionDialog", "", "chkShowIcon"});
+    textRow({"ServiceDeskTicketDialog", R"({"issueDetails": "d"})", "edSubject"});
+    textRow({"ServiceDeskTicketDialog", R"({"subject": "s"})", "txIssueDetails"});
+    textRow({"ApproveRemoteConnectionDialog", R"({"countdown": 30})", "cancelButton"});
 }
 
 void DialogsTest::shownAgain()
 {
     QFETCH(QString, family);
-    QFETCH(QString, event);
+    QFETCH(QString, values);
     IBaseDialog* dialog = get(family);
-    showActive(dialog);
-    // A dialog is kept and shown for the next occasion. What the person did last time is no answer this time.
-    click(dialog, "btnCancel");
-    takeEvents();
-    dialog->hide();
-    showActive(dialog);
-    checkEvents(dialog, QStringLiteral("Return"), event);
-    checkEvents(dialog, QStringLiteral("Space"), QString());
+    preset(dialog, family, values);
+    QWidget& top = window(dialog);
+    const auto start = [&] {
+        showActive(dialog);
+        const auto* edit = qobject_cast<QLineEdit*>(top.focusWidget());
+        const bool selected = edit && edit->hasSelectedText() && edit->selectionLength() == edit->text().size();
+        return top.focusWidget()->objectName() + QLatin1String(selected ? " selected" : "");
+    };
+    QTEST(start(), "start");
+    // Whatever was used last, also while the window was not active: the next key is no part of that answer.
+    for (QWidget* used : top.findChildren<QWidget*>()) {
+        auto* button = qobject_cast<QAbstractButton*>(used);
+        const auto* label = qobject_cast<QLabel*>(used);
+        if (!button && used->focusPolicy() == Qt::NoFocus)
+            continue;
+        for (const bool active : {true, false}) {
+            QWidget other;
+            if (!active)
+                other.show();
+            QVERIFY(QTest::qWaitForWindowActive(active ? &top : &other));
+            used->setFocus();
+            if (button)
+                button->setDown(true);
+            dialog->hide();
+            QTEST(start(), "start");
+            QVERIFY(!(button && button->isDown()) && !(label && label->hasSelectedText()));
+        }
+    }
 }
 
 void DialogsTest::tabOrders_data()
@@ -179,6 +221,7 @@ void DialogsTest::tabOrders()
 void DialogsTest::windows_data()
 {
     textColumns({"family", "title", "modality", "onTop"});
+    textRow({"ErrorMessageDialog", " Tavik ", "NonModal", "yes"});
     textRow({"AcceptMessageDialog", " Tavik ", "NonModal", "yes"});
     textRow({"ProgressDialog", " Tavik ", "NonModal", "no"});
     textRow({"RebootDialog", "Tavik Reboot", "ApplicationModal", "yes"});
@@ -197,6 +240,8 @@ void DialogsTest::windows()
     QFETCH(QString, onTop);
     const QWidget& top = window(get(family));
     QTEST(top.windowTitle(), "title");
+    QCOMPARE(top.toolTip(), family == QLatin1String("RebootDialog") ? QString() : top.windowTitle());
+    QVERIFY(top.testAttribute(Qt::WA_TranslucentBackground));
     const auto modalities = QMetaEnum::fromType<Qt::WindowModality>();
     QTEST(QString::fromLatin1(modalities.valueToKey(top.windowModality())), "modality");
     Qt::WindowFlags flags = Qt::Window | Qt::FramelessWindowHint;

@@ -1,14 +1,15 @@
 #include "GuiTest.h"
 
 #include <QClipboard>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QLabel>
-#include <QLineEdit>
 #include <QListView>
 #include <QMimeData>
+#include <QTemporaryDir>
+#include <QTextDocument>
 #include <QTextDocumentFragment>
-#include <QTextEdit>
+
+#include <ctime>
 
 #ifdef Q_OS_LINUX
 #include <sys/inotify.h>
@@ -40,9 +41,13 @@ private:
 };
 
 namespace {
+const QTemporaryDir room;
+const QString bait = room.filePath(QStringLiteral("bait.png"));
+
+/// A text in which BAIT is the path of the picture that nothing may open.
 QString operator""_s(const char16_t* text, size_t size)
 {
-    return QString(reinterpret_cast<const QChar*>(text), static_cast<int>(size));
+    return QString(reinterpret_cast<const QChar*>(text), static_cast<int>(size)).replace(QLatin1String("BAIT"), bait);
 }
 
 const QString id = u"id"_s;
@@ -54,7 +59,7 @@ bool takeOpened()
     bool opened = false;
 #ifdef Q_OS_LINUX
     static const int queue = inotify_init1(IN_NONBLOCK);
-    static const int watch = inotify_add_watch(queue, BAIT, IN_OPEN);
+    static const int watch = inotify_add_watch(queue, QFile::encodeName(bait).constData(), IN_OPEN);
     alignas(inotify_event) char events[4096];
     while (watch >= 0 && read(queue, events, sizeof events) > 0)
         opened = true;
@@ -76,10 +81,10 @@ const QMap<QString, QStringList> deceptions{
 const QStringList corpus = deceptions.keys()
     + QStringList{
         u"<b>bold</b>"_s,
-        u"<img src=\"file://" BAIT "\">"_s,
-        u"<p><img src='" BAIT "' width=9></p>"_s,
-        u"<body background=\"" BAIT "\"><link rel=stylesheet href=\"" BAIT "\"><style>@import url(" BAIT ");</style>"_s,
-        u"} * { image: url(" BAIT "); border-image: url(" BAIT ") }"_s,
+        u"<img src=\"file://BAIT\">"_s,
+        u"<p><img src='BAIT' width=9></p>"_s,
+        u"<body background=\"BAIT\"><link rel=stylesheet href=\"BAIT\"><style>@import url(BAIT);</style>"_s,
+        u"} * { image: url(BAIT); border-image: url(BAIT) }"_s,
         u"<img src=\"//host.invalid/share/x.png\">\\\\host\\x <a href=\"javascript:alert(1)\">click</a>"_s,
         u"&lt;b&gt; &amp;amp; &#x202e; &nosuch;"_s,
         u"</span></p><<b <i x=\"'> <!-- "_s,
@@ -97,7 +102,7 @@ const QStringList corpus = deceptions.keys()
     };
 
 /// What is written into the branding file: no line breaks, which the file cannot hold without escapes.
-const QString hostileName = u"<b>T</b>&amp;a & [*] %1 %n <img src='" BAIT "'>"_s;
+const QString hostileName = u"<b>T</b>&amp;a & [*] %1 %n <img src='BAIT'>"_s;
 
 QString read(const QString& text, Qt::TextFormat format = Qt::AutoText)
 {
@@ -127,10 +132,13 @@ QMap<QString, QString> readings(const Family& family, IBaseDialog* dialog)
     result[u"title"_s] = window.windowTitle().replace(u"[*][*]"_s, u"[*]"_s);
     result[u"window tip"_s] = read(window.toolTip());
     const QList<QWidget*> widgets = window.findChildren<QWidget*>();
-    for (int i = 0; i < widgets.size(); ++i) {
-        const QString place = u"%1 %2"_s.arg(i).arg(widgets[i]->objectName());
-        result[place] = textIn(*widgets[i]);
-        result[place + u" tip"_s] = read(widgets[i]->toolTip());
+    for (const QWidget* widget : widgets) {
+        // The parts of Qt's own widgets change their order, for example when a scroll bar appears.
+        if (widget->objectName().isEmpty() || widget->objectName().startsWith(u"qt_"_s))
+            continue;
+        const QString place = widget->parentWidget()->objectName() + u'.' + widget->objectName();
+        result[place] = textIn(*widget);
+        result[place + u" tip"_s] = read(widget->toolTip());
     }
     if (auto* log = window.findChild<QListView*>(u"logsListView"_s))
         result[u"log"_s] = read(log->model()->index(0, 0).data().toString(), Qt::RichText);
@@ -189,7 +197,7 @@ HostileTest::HostileTest()
     picture.fill(Qt::magenta);
     // Before the plugin is loaded, which reads the branding file.
     QFile file(QCoreApplication::applicationDirPath() + u"/oem.strings"_s);
-    if (!picture.save(QStringLiteral(BAIT)) || !file.open(QIODevice::WriteOnly))
+    if (!picture.save(bait) || !file.open(QIODevice::WriteOnly))
         qFatal("cannot write the bait");
     for (const char* key : {"companyName", "agentName", "supportWebsite", "supportEmail", "supportPhone"})
         file.write(QByteArray(key) + "=\"" + hostileName.toUtf8() + "\"\n");
@@ -201,7 +209,7 @@ void HostileTest::trapWorks()
 #ifndef Q_OS_LINUX
     QSKIP("opened files are noticed on Linux only");
 #endif
-    QLabel careless(u"<img src=\"file://" BAIT "\">"_s);
+    QLabel careless(u"<img src=\"file://BAIT\">"_s);
     careless.grab();
     QVERIFY(takeOpened());
     QVERIFY(!takeOpened());
@@ -294,10 +302,10 @@ void HostileTest::longTexts()
         constexpr int length = hasSanitizer ? 1 << 17 : 1 << 20;
         const QJsonArray arguments =
             argumentsWith(setter, position, piece.repeated(length / piece.size() + 1).left(length));
-        QElapsedTimer timer;
-        timer.start();
+        // The processor's time, which other programs do not lengthen.
+        const std::clock_t start = std::clock();
         setter.call(*dialog, arguments);
-        return timer.elapsed();
+        return qint64(std::clock() - start) * 1000 / CLOCKS_PER_SEC;
     };
     for (const QString& piece : {u"<b><i>"_s, u"<"_s, u"&"_s, u"&lt;"_s, u"%1%n"_s, u"https:a"_s, u" - ("_s,
                                  u"\u202E"_s, u"\xD800"_s, u"\0"_s}) {
@@ -321,14 +329,13 @@ void HostileTest::pasting()
     for (const QString& text : corpus) {
         auto* content = new QMimeData;
         content->setText(text);
-        content->setHtml(u"<html>%1<img src=\"file://" BAIT "\"></html>"_s.arg(text));
+        content->setHtml(u"<html>%1<img src=\"file://BAIT\"></html>"_s.arg(text));
         QGuiApplication::clipboard()->setMimeData(content);
         press(dialog, Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
         const QList<QWidget*> widgets = window(dialog).findChildren<QWidget*>();
         for (QWidget* widget : widgets) {
-            if (!qobject_cast<QLineEdit*>(widget) && !qobject_cast<QTextEdit*>(widget))
+            if (!widget->inherits("QLineEdit") && !widget->inherits("QTextEdit"))
                 continue;
-            QMetaObject::invokeMethod(widget, "clear");
             QMetaObject::invokeMethod(widget, "paste");
             QVERIFY2(!widget->property("html").toString().contains(u"<img"_s), qPrintable(text));
         }
@@ -336,9 +343,7 @@ void HostileTest::pasting()
         QVERIFY2(!takeOpened(), qPrintable(text));
     }
     // Pasting is no answer; the prompt's countdown just ends.
-    QStringList answers = takeEvents();
-    answers.removeAll(u"evTimeout"_s);
-    QCOMPARE(answers, QStringList());
+    QVERIFY(takeEvents().filter(QRegularExpression(u"^(?!evTimeout)"_s)).isEmpty());
 }
 
 void HostileTest::branding_data()
@@ -370,8 +375,7 @@ void HostileTest::noNetworkCode()
     QFile plugin(QStringLiteral(GUI_PLUGIN));
     QVERIFY(plugin.open(QIODevice::ReadOnly));
     const QByteArray code = plugin.readAll();
-    QVERIFY(code.contains("Qt5Widgets"));
-    QVERIFY(!code.contains("Qt5Network"));
+    QVERIFY(code.contains("Qt5Widgets") && !code.contains("Qt5Network"));
 }
 
 GUI_TEST_MAIN(HostileTest)

@@ -238,9 +238,7 @@ void LanguageTest::menusAreTranslated()
 
 int main(int argc, char** argv)
 {
-    const QByteArray language = qgetenv("LANGUAGE");
-    prepareTestEnvironment();
-    qputenv("LANGUAGE", language);
+    prepareTestEnvironment(qgetenv("LANGUAGE"));
     QApplication application(argc, argv);
     LastTranslator lastTranslator;
     QCoreApplication::installTranslator(&lastTranslator);

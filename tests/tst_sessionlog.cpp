@@ -3,11 +3,13 @@
 #include <QAccessible>
 #include <QCheckBox>
 #include <QClipboard>
-#include <QElapsedTimer>
 #include <QListView>
+#include <QScreen>
 #include <QScrollBar>
+#include <QTextDocumentFragment>
 #include <QToolTip>
 
+#include <ctime>
 #include <limits>
 
 namespace {
@@ -29,11 +31,11 @@ private Q_SLOTS:
     void rolesAndColors();
     void badInput_data();
     void badInput();
+    void drawing();
     void longPathsKeepTheirEnd();
     void copies();
     void keys();
     void readersStayWhereTheyAre();
-    void selectedRowsAreLegible();
     void screenReaders();
     void closedWithTheToolsArea();
 
@@ -84,57 +86,37 @@ QRect SessionLogTest::rowRect(int row) const
 
 void SessionLogTest::actions()
 {
-    const char* const transfers[][4] = {
-        {"file-upload", "File uploaded", "Upload aborted", "Upload cancelled"},
-        {"file-download", "File downloaded", "Download aborted", "Download cancelled"},
-        {"dir-upload", "Folder uploaded", "Upload aborted", "Upload cancelled"},
-        {"dir-download", "Folder downloaded", "Download aborted", "Download cancelled"},
-    };
-    const char* const onlyDone[][2] = {{"file-erase", "File deleted"},        {"file-rename", "File renamed"},
-                                       {"dir-erase", "Folder deleted"},       {"dir-rename", "Folder renamed"},
-                                       {"make-dir", "Folder created"},        {"proc-kill", "Process ended"},
-                                       {"serv-start", "Service started"},     {"serv-stop", "Service stopped"},
-                                       {"serv-restart", "Service restarted"}, {"serv-pause", "Service paused"},
-                                       {"serv-resume", "Service resumed"},    {"session-suspend", "Session suspended"},
-                                       {"session-resume", "Session resumed"}};
-    const auto check = [this](const char* action, const char* status, const char* expected) {
-        session->addLogEvent(noon, QString(), QLatin1String(action), QStringLiteral("x"), QLatin1String(status));
-        QCOMPARE(text(0), QString(noonText + QLatin1String(expected) + QStringLiteral(" x")));
-    };
-    for (const auto& row : onlyDone) {
-        check(row[0], "reply", row[1]);
-        check(row[0], "abort", "");
+    const char* const rows[][3] = {
+        {"file-upload", "reply", "File uploaded"},      {"file-download", "abort", "Download aborted"},
+        {"dir-upload", "cancel", "Upload cancelled"},   {"dir-download", "error", ""},
+        {"file-erase", "reply", "File deleted"},        {"dir-rename", "abort", ""},
+        {"proc-kill", "reply", "Process ended"},        {"serv-pause", "reply", "Service paused"},
+        {"session-resume", "reply", "Session resumed"}, {"file-upload", "Reply", "file-upload"},
+        {"File-Upload", "reply", "File-Upload"},        {"file-copy", "reply", "file-copy"}};
+    for (const auto& row : rows) {
+        session->addLogEvent(noon, QString(), QLatin1String(row[0]), QStringLiteral("x"), QLatin1String(row[1]));
+        QCOMPARE(text(0), QString(noonText + QLatin1String(row[2]) + QStringLiteral(" x")));
     }
-    for (const auto& row : transfers) {
-        check(row[0], "reply", row[1]);
-        check(row[0], "abort", row[2]);
-        check(row[0], "cancel", row[3]);
-        check(row[0], "error", "");
-        check(row[0], "Reply", row[0]);
-    }
-    for (const char* unknown : {"file-copy", "serv-list", "File-Upload", ""})
-        check(unknown, "reply", unknown);
 }
 
 void SessionLogTest::rolesAndColors()
 {
-    const char* const colors[][2] = {{"file", "#89C1FE"},  {"process", "#BCBCFA"}, {"service", "#C1C36D"},
-                                     {"event", "#6BC39A"}, {"Process", "#89C1FE"}, {"", "#89C1FE"}};
     const QString html = QStringLiteral("<p><span style=\" font-size:14px; color:#a9adb3;\">%1</span><span style=\" "
                                         "font-size:14px; color:%2;\">%3 </span><span style=\" font-size:14px; "
                                         "color:#f3f4f4;\">%3</span></p>");
+    const char* const colors[][2] = {{"file", "#89C1FE"},
+                                     {"process", "#BCBCFA"},
+                                     {"service", "#C1C36D"},
+                                     {"event", "#6BC39A"},
+                                     {"Process", "#89C1FE"}};
     for (const auto& row : colors) {
         const QString object = QLatin1String(row[0]);
         session->addLogEvent(noon, object, object, object, QString());
         QCOMPARE(text(0, Qt::DisplayRole), html.arg(noonText, QLatin1String(row[1]), object));
-        QCOMPARE(text(0, Qt::ToolTipRole), object);
     }
     session->addEmptyLogRow();
     QCOMPARE(text(0, Qt::DisplayRole), html.arg(QStringLiteral(" "), QStringLiteral("#89C1FE"), QString()));
-    QCOMPARE(text(0), QStringLiteral("  "));
-    QCOMPARE(view->model()->rowCount(), 7);
-    for (int role : {int(Qt::EditRole), int(Qt::ForegroundRole), int(Qt::AccessibleTextRole), int(Qt::UserRole)})
-        QVERIFY(!view->model()->index(1, 0).data(role).isValid());
+    QCOMPARE(view->model()->rowCount(), 6);
 }
 
 void SessionLogTest::badInput_data()
@@ -142,31 +124,63 @@ void SessionLogTest::badInput_data()
     QTest::addColumn<QString>("value");
     QTest::newRow("markup") << QStringLiteral("<h1>&amp;%1\r\n\u202E</h1>");
     QTest::newRow("a megabyte") << QString(1024 * 1024, QLatin1Char('w'));
-    QTest::newRow("a megabyte of marks") << QString(1024 * 1024, QChar(0x0301));
+    QTest::newRow("East Asian") << QString(40, QChar(0x30C6));
 }
 
 void SessionLogTest::badInput()
 {
     using Limits = std::numeric_limits<qint64>;
     QFETCH(QString, value);
-    for (qint64 time : {Limits::min(), Limits::max(), noon}) {
-        QElapsedTimer timer;
-        timer.start();
+    add(QStringLiteral("x"));
+    const int height = rowRect(0).height();
+    for (qint64 time : {Limits::min(), noon}) {
+        // The processor's time, which other programs do not lengthen.
+        const std::clock_t start = std::clock();
         session->addLogEvent(time, value, value, value, value);
         window(session).grab();
-        QVERIFY(timer.elapsed() < 1000);
+        QVERIFY(std::clock() - start < CLOCKS_PER_SEC);
         QVERIFY(text(0).endsWith(QString(QLatin1Char(' ') + value + QLatin1Char(' ') + value)));
         QCOMPARE(text(0, Qt::DisplayRole).count(QLatin1Char('<')), 8);
         QVERIFY(!text(0, Qt::DisplayRole).contains(QRegularExpression(QStringLiteral("[\\r\\n\u202E]"))));
     }
-    // A wild row is as high as others, and its tool tip is no markup.
-    const QRect row = view->visualRect(view->model()->index(0, 0));
-    QVERIFY2(row.height() > 10 && row.height() < 40, qPrintable(QString::number(row.height())));
+    // An unknown action leaves room for the end of the path.
+    const QFontMetrics metrics(view->font());
+    const QString shown = QTextDocumentFragment::fromHtml(text(0, Qt::DisplayRole)).toPlainText();
+    QVERIFY(metrics.horizontalAdvance(shown) < view->viewport()->width());
+    const QRect row = rowRect(0);
+    QCOMPARE(row.height(), height);
     QHelpEvent help(QEvent::ToolTip, row.center(), view->viewport()->mapToGlobal(row.center()));
     QCoreApplication::sendEvent(view->viewport(), &help);
     const QString toolTip = QToolTip::text();
-    QVERIFY(toolTip.size() < 2000 && !toolTip.contains(QLatin1String("<h1>")) && !toolTip.contains(QChar(0x202E)));
+    QVERIFY(toolTip.size() < 4500 && !toolTip.contains(QLatin1String("<h1>")) && !toolTip.contains(QChar(0x202E)));
+    QCOMPARE(toolTip.startsWith(QChar(0x2026)), value.size() > 4096);
+    const QStringList lines = toolTip.split(QLatin1Char('\n'));
+    for (const QString& line : lines)
+        QVERIFY(QFontMetrics(QToolTip::font()).horizontalAdvance(line)
+                < QGuiApplication::primaryScreen()->size().width());
     QToolTip::hideText();
+}
+
+void SessionLogTest::drawing()
+{
+    // Each text is drawn as the one beside it, but for its colour: blanks stay, first letters turn no row around, and
+    // East Asian characters move nothing.
+    const auto ink = [this](const QString& object, const QRect& part) {
+        add(object);
+        settle();
+        return view->viewport()->grab(part.translated(rowRect(0).topLeft())).toImage();
+    };
+    const QRect start(0, 0, 150, rowRect(0).height());
+    const QImage plain = ink(QStringLiteral("x"), start);
+    QCOMPARE(ink(QString(QChar(0x30C6)), start), plain);
+    session->addLogEvent(noon, QString(), QString(QChar(0x05D0)), QString(QChar(0x05D0)), QString());
+    settle();
+    QCOMPARE(view->viewport()->grab(start.translated(rowRect(0).topLeft())).toImage(), plain);
+    const QRect whole(0, 0, view->viewport()->width(), rowRect(0).height());
+    QVERIFY(ink(QStringLiteral("a b"), whole) != ink(QStringLiteral("a  b"), whole));
+    session->setRatio(2);
+    settle();
+    QVERIFY2(qAbs(rowRect(0).height() - 2 * whole.height()) <= 2, qPrintable(QString::number(rowRect(0).height())));
 }
 
 void SessionLogTest::longPathsKeepTheirEnd()
@@ -211,11 +225,18 @@ void SessionLogTest::keys()
         QVERIFY(view->viewport()->rect().contains(rowRect(step.second).center()));
     }
     const auto selected = [this] { return view->selectionModel()->selectedIndexes().size(); };
-    QTest::keyClick(view, Qt::Key_Down, Qt::ShiftModifier);
-    QCOMPARE(selected(), 2);
+    const QPair<Qt::Key, int> selections[] = {{Qt::Key_Down, 2}, {Qt::Key_Down, 3}, {Qt::Key_Up, 2}};
+    for (const auto& step : selections) {
+        QTest::keyClick(view, step.first, Qt::ShiftModifier);
+        QCOMPARE(selected(), step.second);
+    }
+    QTest::keyClick(view, Qt::Key_End);
+    QTest::keyClick(view, Qt::Key_Home, Qt::ShiftModifier);
+    QCOMPARE(selected(), 1000);
+    QTest::keyClick(view, Qt::Key_Home);
     QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, rowRect(3).center());
     QCOMPARE(view->currentIndex().row(), 3);
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::ShiftModifier, rowRect(5).center());
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::ShiftModifier, rowRect(1).center());
     QCOMPARE(selected(), 3);
 }
 
@@ -242,21 +263,6 @@ void SessionLogTest::readersStayWhereTheyAre()
     QVERIFY(!view->indexAt(QPoint(5, 5)).isValid());
 }
 
-void SessionLogTest::selectedRowsAreLegible()
-{
-    addMany(2);
-    view->setCurrentIndex(view->model()->index(0, 0));
-    const auto contains = [this](int row, const QColor& color) {
-        const QImage image = view->viewport()->grab(rowRect(row)).toImage().convertToFormat(QImage::Format_RGB32);
-        const auto* pixels = reinterpret_cast<const QRgb*>(image.constBits());
-        return std::count(pixels, pixels + image.width() * image.height(), color.rgb()) > 0;
-    };
-    QVERIFY(contains(1, QColor(0x89C1FE)));
-    QVERIFY(!contains(0, QColor(0x89C1FE)));
-    for (QPalette::ColorRole role : {QPalette::HighlightedText, QPalette::Highlight})
-        QVERIFY(contains(0, view->palette().color(QPalette::Active, role)));
-}
-
 void SessionLogTest::screenReaders()
 {
     addMany(2);
@@ -277,8 +283,11 @@ void SessionLogTest::screenReaders()
     QVERIFY(row->state().selected && !row->state().offscreen);
     session->clearLog();
     QCOMPARE(log->childCount(), 0);
-    add(path);
-    QCOMPARE(log->child(0)->text(QAccessible::Name), text(0));
+    // What is read is what is seen, without the blanks of missing parts.
+    session->addLogEvent(noon, QString(), QString(), QStringLiteral("a  b\u202E"), QString());
+    QCOMPARE(log->child(0)->text(QAccessible::Name), QString(noonText + QStringLiteral("a  b\uFFFD")));
+    session->addLogEvent(noon, QString(), QStringLiteral("act"), QString(), QString());
+    QCOMPARE(log->child(0)->text(QAccessible::Name), QString(noonText + QStringLiteral("act")));
 }
 
 void SessionLogTest::closedWithTheToolsArea()

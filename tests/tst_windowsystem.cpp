@@ -6,18 +6,18 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QVBoxLayout>
+#include <QWindow>
 
 /// The dialogs among other windows, under a real window manager and with real keys and clicks.
 class WindowSystemTest : public GuiTest {
     Q_OBJECT
 
 private Q_SLOTS:
-    void headlineStory();
     void staysOnTop();
     void modalBlocksTheHost();
     void sessionWindowLeavesTheFocus();
     void dragging();
-    void promptStartsOnCancel();
+    void promptLeavesTheFocus();
 
 private:
     QStringList awaitEvents();
@@ -102,24 +102,6 @@ QVector<WId> WindowSystemTest::stacking()
     return windows;
 }
 
-void WindowSystemTest::headlineStory()
-{
-    auto* error = show<IErrorMessageDialog>();
-    error->setMessage(QStringLiteral("The update could not be downloaded. Press Enter to try again."));
-    pressKeys(QStringLiteral("Return"));
-    QCOMPARE(awaitEvents(), QStringList{QStringLiteral("evTryAgain")});
-    QVERIFY(window(error).isVisible());
-    error->hide();
-
-    auto* confirmation = show<IAcceptMessageDialog>();
-    clickOn(child(confirmation, "btnMessageInnerButton"));
-    QCOMPARE(awaitEvents(), QStringList{QStringLiteral("evOk")});
-    pressKeys(QStringLiteral("Escape"));
-    QVERIFY(window(confirmation).isVisible());
-    confirmation->done(0);
-    QTRY_VERIFY(!stacking().contains(window(confirmation).winId()));
-}
-
 void WindowSystemTest::staysOnTop()
 {
     HostWindow host;
@@ -170,40 +152,64 @@ void WindowSystemTest::sessionWindowLeavesTheFocus()
     pressKeys(QStringLiteral("b"));
     pressKeys(QStringLiteral("space"));
     QTRY_COMPARE(host.edit.text(), QStringLiteral("ab "));
+    run(QStringLiteral("xdotool"), {QStringLiteral("windowminimize"), QString::number(window(session).winId())});
+    QTRY_VERIFY(window(session).isMinimized());
+    session->addRemoteControlSession(QStringLiteral("new"), QStringLiteral("user"), 1000, true);
+    QTRY_VERIFY(!window(session).isMinimized() && window(session).windowHandle()->isExposed());
+    pressKeys(QStringLiteral("c"));
+    QTRY_COMPARE(host.edit.text(), QStringLiteral("ab c"));
     QVERIFY(!window(session).isActiveWindow());
     QCOMPARE(takeEvents(), QStringList());
 }
 
 void WindowSystemTest::dragging()
 {
-    auto* dialog = show<IErrorMessageDialog>();
-    QWidget& top = window(dialog);
-    const QPoint start = top.pos();
-    const QPoint grip = child(dialog, "content").mapToGlobal(QPoint(40, 40));
-    moveMouse(grip);
-    run(QStringLiteral("xdotool"), {QStringLiteral("mousedown"), QStringLiteral("1")});
-    for (int i = 1; i <= 5; ++i)
-        moveMouse(grip + QPoint(20, -10) * i);
-    QTRY_COMPARE(top.pos(), start + QPoint(100, -50));
-    run(QStringLiteral("xdotool"), {QStringLiteral("mouseup"), QStringLiteral("1")});
-    moveMouse(grip);
-    settle();
-    QCOMPARE(top.pos(), start + QPoint(100, -50));
+    auto* prompt = get<IApproveRemoteConnectionDialog>();
+    prompt->setCountdown(1000);
+    // One without and one with a title bar.
+    const QPair<IBaseDialog*, const char*> dialogs[] = {{get<IErrorMessageDialog>(), "content"},
+                                                        {prompt, "buttonsBackground"}};
+    for (const auto& dialog : dialogs) {
+        showActive(dialog.first);
+        QWidget& top = window(dialog.first);
+        const QPoint start = top.pos();
+        const QPoint grip = child(dialog.first, dialog.second).mapToGlobal(QPoint(30, 30));
+        moveMouse(grip);
+        run(QStringLiteral("xdotool"), {QStringLiteral("mousedown"), QStringLiteral("1")});
+        for (int i = 1; i <= 5; ++i)
+            moveMouse(grip + QPoint(20, -10) * i);
+        QTRY_COMPARE(top.pos(), start + QPoint(100, -50));
+        run(QStringLiteral("xdotool"), {QStringLiteral("mouseup"), QStringLiteral("1")});
+        moveMouse(grip);
+        settle();
+        QCOMPARE(top.pos(), start + QPoint(100, -50));
+        dialog.first->hide();
+    }
 }
 
-void WindowSystemTest::promptStartsOnCancel()
+void WindowSystemTest::promptLeavesTheFocus()
 {
     HostWindow host;
     auto* prompt = get<IApproveRemoteConnectionDialog>(QStringLiteral("id"));
     prompt->setCountdown(1000);
-    showActive(prompt);
-    QTRY_VERIFY(child(prompt, "cancelButton").hasFocus());
-    pressKeys(QStringLiteral("y"));
-    pressKeys(QStringLiteral("Escape"));
-    pressKeys(QStringLiteral("space"));
-    QCOMPARE(awaitEvents(), QStringList{QStringLiteral("evCancel")});
-    clickOn(child(prompt, "allowButton"));
-    QCOMPARE(awaitEvents(), QStringList{QStringLiteral("evAllow")});
+    for (const char* typed : {"a ", "a a "}) {
+        prompt->show();
+        QTRY_VERIFY(stacking().contains(window(prompt).winId()));
+        pressKeys(QStringLiteral("a"));
+        pressKeys(QStringLiteral("space"));
+        QTRY_COMPARE(host.edit.text(), QLatin1String(typed));
+        clickOn(child(prompt, "messageTextEdit"));
+        QTRY_VERIFY(child(prompt, "cancelButton").hasFocus());
+        pressKeys(QStringLiteral("y"));
+        pressKeys(QStringLiteral("Escape"));
+        pressKeys(QStringLiteral("space"));
+        QCOMPARE(awaitEvents(), QStringList{QStringLiteral("evCancel")});
+        clickOn(child(prompt, "allowButton"));
+        QCOMPARE(awaitEvents(), QStringList{QStringLiteral("evAllow")});
+        prompt->hide();
+        host.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&host));
+    }
 }
 
 GUI_TEST_MAIN(WindowSystemTest)

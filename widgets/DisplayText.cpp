@@ -26,7 +26,11 @@ QString cutForLine(const QString& text, Qt::TextElideMode mode)
     const QChar ellipsis(0x2026);
     if (text.size() <= longestLine)
         return text;
-    return mode == Qt::ElideLeft ? ellipsis + text.right(longestLine) : text.left(longestLine) + ellipsis;
+    if (mode == Qt::ElideLeft)
+        return ellipsis + text.right(longestLine);
+    if (mode == Qt::ElideMiddle)
+        return text.left(longestLine / 2) + ellipsis + text.right(longestLine / 2);
+    return text.left(longestLine) + ellipsis;
 }
 bool hasEndlessWord(const QString& text)
 {

@@ -56,7 +56,8 @@ public:
 
     QString text(QAccessible::Text type) const override
     {
-        return type == QAccessible::Name ? index.data(LogsListModel::PlainTextRole).toString() : QString();
+        const auto* log = qobject_cast<const LogsListModel*>(index.model());
+        return type == QAccessible::Name && log ? log->spokenText(index.row()) : QString();
     }
 
     void setText(QAccessible::Text, const QString&) override { }
@@ -111,7 +112,7 @@ public:
     {
         if (row < 0 || row >= childCount())
             return nullptr;
-        // Rows go all at once or not at all.
+        // The model removes its rows by a reset only, so all indexes expire together.
         if (!rows.isEmpty() && !rows.constBegin().key().isValid())
             forgetRows();
         const QModelIndex index = view->model()->index(row, 0);

@@ -6,9 +6,6 @@
 #include <QFont>
 
 namespace {
-// An unknown action key is shown as it is, but nobody can read more of it than this in a row.
-constexpr int longestAction = 256;
-
 // A few screens full.
 constexpr int keptTexts = 200;
 
@@ -23,9 +20,7 @@ QString plainText(const LogEntry& entry)
 }
 } // namespace
 
-LogsListModel::LogsListModel(QObject* parent) : QAbstractListModel(parent), shownTexts(keptTexts), pathMetrics(QFont())
-{
-}
+LogsListModel::LogsListModel(QObject* parent) : QAbstractListModel(parent), shownTexts(keptTexts), metrics(QFont()) { }
 
 int LogsListModel::rowCount(const QModelIndex& parent) const
 {
@@ -69,10 +64,19 @@ void LogsListModel::clear()
     endResetModel();
 }
 
-void LogsListModel::setPathDisplay(const QFont& font, int width)
+QString LogsListModel::spokenText(int row) const
 {
-    pathMetrics = QFontMetrics(font);
-    pathWidth = width;
+    const LogEntry& entry = entries[static_cast<size_t>(row)];
+    QStringList parts{timeText(entry), entry.actionText, entry.path};
+    parts.removeAll(QString());
+    return withVisibleControls(parts.join(QLatin1Char(' ')));
+}
+
+void LogsListModel::setRowDisplay(const QFont& font, int newRowWidth, int newPathWidth)
+{
+    metrics = QFontMetrics(font);
+    rowWidth = newRowWidth;
+    pathWidth = newPathWidth;
     shownTexts.clear();
 }
 
@@ -87,10 +91,12 @@ QString LogsListModel::displayText(const LogEntry& entry) const
 
 QString LogsListModel::html(const LogEntry& entry) const
 {
+    const QString time = timeText(entry);
+    const QString path = elidedWithVisibleControls(entry.path, metrics, Qt::ElideLeft, pathWidth);
+    const int actionWidth = rowWidth - metrics.horizontalAdvance(time + QLatin1String("  ") + path);
+    const QString action = elidedWithVisibleControls(entry.actionText, metrics, Qt::ElideRight, actionWidth);
     return QStringLiteral("<p><span style=\" font-size:14px; color:#a9adb3;\">%1 </span>"
                           "<span style=\" font-size:14px; color:%3;\">%2 </span>"
                           "<span style=\" font-size:14px; color:#f3f4f4;\">%4</span></p>")
-        .arg(timeText(entry), withVisibleControls(entry.actionText.left(longestAction)).toHtmlEscaped(),
-             logCategoryColor(entry.category),
-             elidedWithVisibleControls(entry.path, pathMetrics, Qt::ElideLeft, pathWidth).toHtmlEscaped());
+        .arg(time, action.toHtmlEscaped(), logCategoryColor(entry.category), path.toHtmlEscaped());
 }

@@ -35,8 +35,12 @@ public:
     void addEmptyEntry();
     void clear();
 
-    /// The font that rows are shown in, and the width in it that paths are shortened to.
-    void setPathDisplay(const QFont& font, int width);
+    /// What screen readers say for a row: its visible text, with the whole path and without superfluous blanks.
+    QString spokenText(int row) const;
+
+    /// The font that rows are shown in, the width of their text, and the width that paths are shortened to. An action
+    /// is shortened to what time and path leave.
+    void setRowDisplay(const QFont& font, int rowWidth, int pathWidth);
 
 private:
     Q_DISABLE_COPY(LogsListModel)
@@ -48,6 +52,7 @@ private:
     std::deque<LogEntry> entries;
     /// The HTML of the entries last shown, which are shown again and again.
     mutable QCache<const LogEntry*, QString> shownTexts;
-    QFontMetrics pathMetrics;
-    int pathWidth = 178;
+    QFontMetrics metrics;
+    int rowWidth = 0;
+    int pathWidth = 0;
 };

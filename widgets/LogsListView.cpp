@@ -3,6 +3,7 @@
 #include "DisplayText.h"
 #include "LogsListAccessible.h"
 #include "LogsListModel.h"
+#include "PlainToolTip.h"
 #include "RichTextDelegate.h"
 
 #include <QAccessible>
@@ -13,14 +14,8 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScrollBar>
-#include <QToolTip>
 
 #include <algorithm>
-
-namespace {
-// The longest path that Windows knows, for most file systems; nobody reads more in a tool tip.
-constexpr int longestToolTip = 260;
-} // namespace
 
 LogsListView::LogsListView(QWidget* parent) : QListView(parent)
 {
@@ -32,6 +27,15 @@ LogsListView::LogsListView(QWidget* parent) : QListView(parent)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     // Scrolling then moves what is painted instead of painting it again.
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+int LogsListView::textWidth(int listWidth) const
+{
+    // What styles leave free at both sides of an item's text.
+    const int itemMargin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
+    const auto* delegate = qobject_cast<RichTextDelegate*>(itemDelegate());
+    const int margin = itemMargin + (delegate ? delegate->margin() : 0);
+    return listWidth - verticalScrollBar()->sizeHint().width() - 2 * margin;
 }
 
 QRect LogsListView::visualRect(const QModelIndex& index) const
@@ -152,8 +156,10 @@ QModelIndex LogsListView::moveCursor(CursorAction action, Qt::KeyboardModifiers)
 
 void LogsListView::setSelection(const QRect& rect, QItemSelectionModel::SelectionFlags command)
 {
-    const int first = qMax(0, rowAt(rect.top()));
-    const int last = qMin(rowAt(rect.bottom()), rowCount() - 1);
+    // The rectangle begins where the selection does, so its bottom is above its top when the person selects upward.
+    const auto ends = std::minmax({rect.top(), rect.bottom()});
+    const int first = qMax(0, rowAt(ends.first));
+    const int last = qMin(rowAt(ends.second), rowCount() - 1);
     QItemSelection selection;
     if (first <= last)
         selection.select(model()->index(first, 0), model()->index(last, 0));
@@ -170,11 +176,24 @@ QRegion LogsListView::visualRegionForSelection(const QItemSelection& selection) 
 
 void LogsListView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)
 {
+    // Not QListView's: it looks rows up in its own layout, which this list does not use, and lists every selected row.
     QAbstractItemView::selectionChanged(selected, deselected);
+    if (!QAccessible::isActive())
+        return;
+    const auto tell = [this](QAccessible::Event type, const QItemSelection& rows) {
+        if (rows.isEmpty())
+            return;
+        QAccessibleEvent event(this, type);
+        event.setChild(rows.first().top());
+        QAccessible::updateAccessibility(&event);
+    };
+    tell(QAccessible::SelectionRemove, deselected);
+    tell(QAccessible::SelectionAdd, selected);
 }
 
 void LogsListView::currentChanged(const QModelIndex& current, const QModelIndex& previous)
 {
+    // Not QListView's, for the same reason as in selectionChanged().
     QAbstractItemView::currentChanged(current, previous);
     if (QAccessible::isActive() && current.isValid()) {
         QAccessibleEvent event(this, QAccessible::Focus);
@@ -187,12 +206,11 @@ bool LogsListView::viewportEvent(QEvent* event)
 {
     if (event->type() != QEvent::ToolTip)
         return QListView::viewportEvent(event);
-    // The role gives the path as it came; here it is shown, and must not be taken for markup.
+    // The role gives the path as it came.
     const auto* help = static_cast<QHelpEvent*>(event);
     const QModelIndex index = indexAt(help->pos());
-    const QString path = index.data(Qt::ToolTipRole).toString().right(longestToolTip);
-    // Without a widget, as the tool tip would otherwise take its colours.
-    QToolTip::showText(help->globalPos(), literalToolTip(withVisibleControls(path)));
+    const QString path = withVisibleControls(index.data(Qt::ToolTipRole).toString());
+    showPlainToolTip(help->globalPos(), path, Qt::ElideLeft);
     return true;
 }
 

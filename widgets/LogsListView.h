@@ -14,6 +14,9 @@ class LogsListView final : public QListView {
 public:
     explicit LogsListView(QWidget* parent = nullptr);
 
+    /// The width that the text of a row has in a list of @p listWidth whose scroll bar is shown.
+    int textWidth(int listWidth) const;
+
     QRect visualRect(const QModelIndex& index) const override;
     QModelIndex indexAt(const QPoint& point) const override;
     void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;

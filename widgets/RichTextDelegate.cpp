@@ -12,6 +12,39 @@ namespace {
 // A few screens full.
 constexpr int keptDocuments = 200;
 
+// As documents have it by themselves.
+constexpr int documentMargin = 4;
+
+void scaleFonts(QTextDocument* document, float ratio)
+{
+    QTextCursor cursor(document);
+    for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
+        // The formats first, as changing one may join fragments.
+        const QVector<QTextLayout::FormatRange> ranges = block.textFormats();
+        for (const QTextLayout::FormatRange& range : ranges) {
+            const int size = range.format.intProperty(QTextFormat::FontPixelSize);
+            if (size == 0)
+                continue;
+            QTextCharFormat larger;
+            larger.setProperty(QTextFormat::FontPixelSize, qMax(1, qRound(static_cast<float>(size) * ratio)));
+            cursor.setPosition(block.position() + range.start);
+            cursor.setPosition(block.position() + range.start + range.length, QTextCursor::KeepAnchor);
+            cursor.mergeCharFormat(larger);
+        }
+    }
+}
+
+/// How far the first line lies below where it would be if its font had all its characters: other fonts are higher.
+qreal extraAscent(const QTextDocument* document)
+{
+    const QTextBlock first = document->firstBlock();
+    const QTextLine line = first.layout()->lineAt(0);
+    const QVector<QTextLayout::FormatRange> formats = first.textFormats();
+    if (!line.isValid() || formats.isEmpty())
+        return 0;
+    return line.ascent() - QFontMetricsF(formats.first().format.font()).ascent();
+}
+
 /// Choosing the glyphs is most of the work; a document does it anew for every painting unless it is told otherwise.
 void keepGlyphs(const QTextDocument* document)
 {
@@ -40,6 +73,17 @@ RichTextDelegate::RichTextDelegate(QObject* parent) : QStyledItemDelegate(parent
 
 RichTextDelegate::~RichTextDelegate() = default;
 
+void RichTextDelegate::setRatio(float newRatio)
+{
+    ratio = newRatio;
+    documents.clear();
+}
+
+int RichTextDelegate::margin() const
+{
+    return qRound(documentMargin * ratio);
+}
+
 void RichTextDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
     QStyleOptionViewItem item = option;
@@ -54,6 +98,9 @@ void RichTextDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opti
     painter->save();
     painter->translate(textArea.topLeft());
     painter->setClipRect(textArea.translated(-textArea.topLeft()), Qt::IntersectClip);
+    // Lays the lines out.
+    text->size();
+    painter->translate(0, -extraAscent(text));
     text->documentLayout()->draw(painter, paintContext(item, text));
     painter->restore();
 }
@@ -71,10 +118,22 @@ QSize RichTextDelegate::sizeHint(const QStyleOptionViewItem& option, const QMode
     QStyleOptionViewItem item = option;
     initStyleOption(&item, index);
     QTextDocument text;
-    text.setDefaultFont(item.font);
-    text.setHtml(item.text);
+    setHtml(&text, item.text, item.font);
     text.setTextWidth(item.rect.width());
     return {static_cast<int>(text.idealWidth()), static_cast<int>(text.size().height())};
+}
+
+void RichTextDelegate::setHtml(QTextDocument* document, const QString& html, const QFont& font) const
+{
+    QTextOption option;
+    option.setTextDirection(Qt::LeftToRight);
+    document->setDefaultTextOption(option);
+    document->setDefaultStyleSheet(QStringLiteral("p { white-space: pre; }"));
+    document->setDocumentMargin(margin());
+    document->setDefaultFont(font);
+    document->setHtml(html);
+    if (ratio != 1.0F)
+        scaleFonts(document, ratio);
 }
 
 QTextDocument* RichTextDelegate::document(const QString& html, const QFont& font) const
@@ -82,8 +141,7 @@ QTextDocument* RichTextDelegate::document(const QString& html, const QFont& font
     QTextDocument* text = documents.object(html);
     if (!text) {
         text = new QTextDocument;
-        text->setDefaultFont(font);
-        text->setHtml(html);
+        setHtml(text, html, font);
         keepGlyphs(text);
         documents.insert(html, text);
     } else if (text->defaultFont() != font) {

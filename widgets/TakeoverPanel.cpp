@@ -2,36 +2,21 @@
 
 #include "DisplayText.h"
 #include "ElapsedTime.h"
+#include "PlainToolTip.h"
+#include "Scaling.h"
 
 #include <QAtomicInt>
 #include <QCoreApplication>
 #include <QFile>
-#include <QFontMetrics>
 #include <QHBoxLayout>
-#include <QHelpEvent>
 #include <QLabel>
 #include <QPushButton>
-#include <QToolTip>
 #include <QUiLoader>
 
 namespace {
 QAtomicInt panelCounter;
 
-/// Shows a label's tool tip in the desktop's colours: with the label's own style sheet it would be grey on white.
-class UnstyledToolTip final : public QObject {
-public:
-    using QObject::QObject;
-
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        if (event->type() != QEvent::ToolTip)
-            return QObject::eventFilter(watched, event);
-        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), static_cast<QWidget*>(watched)->toolTip());
-        return true;
-    }
-};
-
-// The strip speaks in the words of the window it stands in.
+// All texts of the session window are translated in one context.
 QString text(const char* source)
 {
     return QCoreApplication::translate("RemoteConnectionDialog", source);
@@ -65,6 +50,10 @@ void TakeoverPanel::setUsername(const QString& name)
 {
     fullUsername = name;
     showUserName(username, name);
+    const QString title = sessionTypeLabel->text();
+    const QString end = QCoreApplication::translate("RemoteConnectionDialog", "End session", "in full");
+    nameSessionButton(btnEndRemoteControlSession, end, title, name);
+    nameSessionButton(btnCloseRemoteControlPopup, btnCloseRemoteControlPopup->text(), title, name);
 }
 
 void TakeoverPanel::updateElapsedTime()
@@ -76,11 +65,15 @@ void TakeoverPanel::updateElapsedTime()
 
 void TakeoverPanel::setCloseButtonVisible(bool visible)
 {
+    if (!visible)
+        takeFocusFrom(btnCloseRemoteControlPopup);
     btnCloseRemoteControlPopup->setVisible(visible);
 }
 
 void TakeoverPanel::setEndButtonVisible(bool visible)
 {
+    if (!visible)
+        takeFocusFrom(btnEndRemoteControlSession);
     btnEndRemoteControlSession->setVisible(visible);
 }
 
@@ -94,6 +87,18 @@ bool TakeoverPanel::isRunning() const
     return !startTime.isNull();
 }
 
+void TakeoverPanel::scaleBy(float ratio, float fullRatio)
+{
+    scalePixels(this, ratio, fullRatio);
+    showUserName(username, fullUsername);
+}
+
+void TakeoverPanel::setTabOrderAfter(QWidget* previous)
+{
+    setTabOrder(previous, btnEndRemoteControlSession);
+    setTabOrder(btnEndRemoteControlSession, btnCloseRemoteControlPopup);
+}
+
 void TakeoverPanel::resetSessionCounter()
 {
     panelCounter.storeRelease(0);
@@ -104,6 +109,7 @@ void TakeoverPanel::loadForm()
     QFile file(QStringLiteral(":/widgets/takeoverpanel.ui"));
     file.open(QIODevice::ReadOnly);
     QWidget* const form = QUiLoader().load(&file, this);
+    Q_ASSERT(form);
 
     setSizePolicy(form->sizePolicy());
     setMinimumSize(form->minimumSize());
@@ -113,25 +119,45 @@ void TakeoverPanel::loadForm()
     layout->setSpacing(0);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(form);
-    // What the buttons' own style sheets leave open.
-    setStyleSheet(QStringLiteral("QPushButton:focus { text-decoration: underline; }"
-                                 "#separator { background-color: #484a51; }"));
 
-    sessionTypeLabel = findChild<QLabel*>(QStringLiteral("sessionTypeLabel"));
-    username = findChild<QLabel*>(QStringLiteral("username"));
-    timeElapsed = findChild<QLabel*>(QStringLiteral("timeElapsed"));
-    btnCloseRemoteControlPopup = findChild<QPushButton*>(QStringLiteral("btnCloseRemoteControlPopup"));
-    btnEndRemoteControlSession = findChild<QPushButton*>(QStringLiteral("btnEndRemoteControlSession"));
+    sessionTypeLabel = part<QLabel>("sessionTypeLabel");
+    username = part<QLabel>("username");
+    timeElapsed = part<QLabel>("timeElapsed");
+    btnCloseRemoteControlPopup = part<QPushButton>("btnCloseRemoteControlPopup");
+    btnEndRemoteControlSession = part<QPushButton>("btnEndRemoteControlSession");
+}
+
+template <class Widget>
+Widget* TakeoverPanel::part(const char* name) const
+{
+    auto* const widget = findChild<Widget*>(QLatin1String(name));
+    Q_ASSERT_X(widget, "takeoverpanel.ui", name);
+    return widget;
 }
 
 void showUserName(QLabel* label, const QString& name)
 {
-    static UnstyledToolTip unstyledToolTip;
-    label->installEventFilter(&unstyledToolTip);
+    usePlainToolTip(label);
+    // Otherwise a right-to-left name would stand at the far end of the label.
+    label->setAlignment(Qt::AlignLeft | Qt::AlignAbsolute | Qt::AlignVCenter);
     label->ensurePolished();
     const int width = label->maximumWidth();
     const QString elided = elidedWithVisibleControls(name, label->fontMetrics(), Qt::ElideRight, width);
     const QString full = withVisibleControls(name);
     label->setText(elided);
     label->setToolTip(elided == full ? QString() : literalToolTip(full));
+}
+
+void nameSessionButton(QPushButton* button, const QString& action, const QString& sessionTitle, const QString& userName)
+{
+    const QStringList parts{action, sessionTitle, withVisibleControls(userName)};
+    button->setAccessibleName(parts.join(QLatin1String(", ")));
+}
+
+void takeFocusFrom(QWidget* part)
+{
+    QWidget* const window = part->window();
+    const QWidget* const focused = window->focusWidget();
+    if (focused && (focused == part || part->isAncestorOf(focused)))
+        window->setFocus();
 }

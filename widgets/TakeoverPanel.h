@@ -28,6 +28,11 @@ public:
     /// Whether a start time is set.
     bool isRunning() const;
 
+    /// Scales the panel; see scalePixels().
+    void scaleBy(float ratio, float fullRatio);
+    /// Makes Tab go from @p previous to the panel's buttons.
+    void setTabOrderAfter(QWidget* previous);
+
     /// The next panel is number 1 again.
     static void resetSessionCounter();
 
@@ -39,6 +44,8 @@ private:
     Q_DISABLE_COPY(TakeoverPanel)
 
     void loadForm();
+    template <class Widget>
+    Widget* part(const char* name) const;
 
     QLabel* sessionTypeLabel = nullptr;
     QLabel* username = nullptr;
@@ -51,3 +58,9 @@ private:
 
 /// Shows a remote person's name in @p label, elided to its maximum width; the full name is then the tool tip.
 void showUserName(QLabel* label, const QString& name);
+/// Tells screen readers which session a button belongs to, as several buttons of a window have the same text.
+void nameSessionButton(QPushButton* button, const QString& action, const QString& sessionTitle,
+                       const QString& userName);
+/// Gives the focus to the window if @p part has it. To be called before a part is hidden, disabled or removed: Qt would
+/// give the focus to the next widget, perhaps another session's button, and the next key would press that.
+void takeFocusFrom(QWidget* part);

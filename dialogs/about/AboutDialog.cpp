@@ -42,8 +42,6 @@ AboutDialog::AboutDialog(QWidget* parent) : BaseDialog(parent), ui(std::make_uni
     connect(ui->btnClose, &QPushButton::clicked, this, &AboutDialog::slClose);
     connect(ui->btnUpdateNow, &QPushButton::clicked, this, &AboutDialog::slButtonUpdateClick);
     connect(ui->lblWebSiteLink, &QLabel::linkActivated, this, &AboutDialog::slLinkClick);
-
-    ui->btnOk->setFocus();
 }
 
 AboutDialog::~AboutDialog()
@@ -128,6 +126,11 @@ void AboutDialog::accept()
 void AboutDialog::reject()
 {
     slClose();
+}
+
+QWidget* AboutDialog::startWidget()
+{
+    return ui->btnOk;
 }
 
 void AboutDialog::showSupportContacts()

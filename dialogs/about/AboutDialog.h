@@ -40,6 +40,9 @@ public Q_SLOTS:
     void accept() override;
     void reject() override;
 
+protected:
+    QWidget* startWidget() override;
+
 private:
     void showSupportContacts();
     /// Hides @p row and closes the gap that it would leave.

@@ -50,3 +50,8 @@ void AcceptMessageDialog::reject()
     // Hosts wait for evOk also when the window is closed by other means than its buttons.
     Q_EMIT dialogEvent(this, evOk);
 }
+
+QWidget* AcceptMessageDialog::startWidget()
+{
+    return ui->btnMessageInnerButton;
+}

@@ -5,11 +5,8 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QScopedValueRollback>
 #include <QShortcut>
 #include <QUrl>
-
-#include <algorithm>
 
 namespace {
 constexpr int defaultPort = 443;
@@ -28,27 +25,6 @@ int portNumber(const QString& text)
     const int port = text == text.trimmed() ? text.toInt() : 0;
     return port >= 1 && port <= highestPort ? port : 0;
 }
-
-bool isInvisible(QChar character)
-{
-    switch (character.category()) {
-    case QChar::Other_Control:
-    case QChar::Other_Format:
-    case QChar::Separator_Line:
-    case QChar::Separator_Paragraph:
-        return true;
-    default:
-        return false;
-    }
-}
-
-/// @p text without line breaks and zero-width characters, which come along when text is copied from an e-mail.
-QString withoutInvisibles(QString text)
-{
-    const auto end = std::remove_if(text.begin(), text.end(), isInvisible);
-    text.truncate(static_cast<int>(end - text.begin()));
-    return text;
-}
 } // namespace
 
 ActivationDialog::ActivationDialog(QWidget* parent) : BaseDialog(parent), ui(std::make_unique<Ui::ActivationDialog>())
@@ -63,12 +39,12 @@ ActivationDialog::ActivationDialog(QWidget* parent) : BaseDialog(parent), ui(std
     connect(ui->btnCancel, &QPushButton::clicked, this, &ActivationDialog::slClose);
     connect(ui->edHost, &QLineEdit::textChanged, this, &ActivationDialog::doEnableOk);
     connect(ui->edToken, &QLineEdit::textChanged, this, &ActivationDialog::doEnableOk);
-    for (QLineEdit* edit : std::initializer_list<QLineEdit*>{ui->edHost, ui->edPort, ui->edToken})
-        watchInsertions(edit);
+    // However a person gets a link into one of the fields, it is for all of them.
+    for (LineEdit* edit : std::initializer_list<LineEdit*>{ui->edHost, ui->edPort, ui->edToken})
+        connect(edit, &LineEdit::inserted, this, &ActivationDialog::takeLink);
 
     auto* pasteShortcut = new QShortcut(QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_V), this);
     connect(pasteShortcut, &QShortcut::activated, this, &ActivationDialog::slPasteEnrollDataFromClipboard);
-    ui->edHost->setFocus();
 }
 
 ActivationDialog::~ActivationDialog() = default;
@@ -141,44 +117,20 @@ void ActivationDialog::slActivate()
 
 void ActivationDialog::slPasteEnrollDataFromClipboard()
 {
-    if (const auto link = findEnrollmentLink(QGuiApplication::clipboard()->text()))
-        fill(*link);
+    takeLink(QGuiApplication::clipboard()->text());
 }
 
-void ActivationDialog::watchInsertions(QLineEdit* edit)
+QWidget* ActivationDialog::startWidget()
 {
-    // A field tells that it was edited, not what was inserted. That starts where selection or cursor stood before and
-    // ends at the cursor, in whichever way it was pasted or dropped.
-    const auto start = std::make_shared<int>(0);
-    const auto rememberStart = [edit, start] {
-        *start = edit->hasSelectedText() ? edit->selectionStart() : edit->cursorPosition();
-    };
-    connect(edit, &QLineEdit::selectionChanged, this, rememberStart);
-    connect(edit, &QLineEdit::cursorPositionChanged, this, rememberStart);
-    connect(edit, &QLineEdit::textEdited, this, [this, edit, start] { takeInsertion(edit, *start); });
+    return firstEmpty({ui->edHost, ui->edPort, ui->edToken}, ui->edHost);
 }
 
-void ActivationDialog::takeInsertion(QLineEdit* edit, int start)
+void ActivationDialog::takeLink(const QString& text)
 {
-    if (droppingInvisibles)
+    const auto link = findEnrollmentLink(text);
+    if (!link)
         return;
-    const QString inserted = edit->text().mid(start, qMax(0, edit->cursorPosition() - start));
-    if (const auto link = findEnrollmentLink(inserted)) {
-        fill(*link);
-        return;
-    }
-    const QString visible = withoutInvisibles(inserted);
-    if (visible != inserted) {
-        // What is left is no insertion of the person's: a link that comes of it was not there.
-        const QScopedValueRollback<bool> dropping(droppingInvisibles, true);
-        edit->setSelection(start, inserted.size());
-        edit->insert(visible);
-    }
-}
-
-void ActivationDialog::fill(const EnrollmentLink& link)
-{
-    ui->edHost->setText(link.host);
-    ui->edPort->setText(link.port);
-    ui->edToken->setText(link.token);
+    ui->edHost->setText(link->host);
+    ui->edPort->setText(link->port);
+    ui->edToken->setText(link->token);
 }

@@ -6,12 +6,10 @@
 #include <memory>
 
 QT_BEGIN_NAMESPACE
-class QLineEdit;
 namespace Ui {
 class ActivationDialog;
 }
 QT_END_NAMESPACE
-struct EnrollmentLink;
 
 class ActivationDialog final : public BaseDialog, public virtual IActivationDialog {
     Q_OBJECT
@@ -38,12 +36,12 @@ public Q_SLOTS:
     void slActivate();
     void slPasteEnrollDataFromClipboard();
 
+protected:
+    QWidget* startWidget() override;
+
 private:
-    /// Lets @p edit take an enrollment link for all fields, however the person gets it there.
-    void watchInsertions(QLineEdit* edit);
-    void takeInsertion(QLineEdit* edit, int start);
-    void fill(const EnrollmentLink& link);
+    /// Fills all fields from the enrollment link in @p text, if there is one.
+    void takeLink(const QString& text);
 
     const std::unique_ptr<Ui::ActivationDialog> ui;
-    bool droppingInvisibles = false;
 };

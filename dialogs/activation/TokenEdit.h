@@ -1,12 +1,13 @@
 #pragma once
 
-#include <QLineEdit>
+#include "EnrollmentEdit.h"
 
-/// A field whose text is readable on screen but goes to no other program: assistive technology, and whatever poses as
-/// such, finds a password field.
-class TokenEdit final : public QLineEdit {
+/// A field whose text is readable on screen but goes to no other program.
+class TokenEdit final : public EnrollmentEdit {
     Q_OBJECT
 
 public:
     explicit TokenEdit(QWidget* parent = nullptr);
+
+    bool isSecret() const override;
 };

@@ -10,10 +10,10 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace {
 const QLatin1String titleSeparator(" - ");
-constexpr int cascadeStep = 32;
 
 QString sessionText(int sessionType)
 {
@@ -33,14 +33,10 @@ QString sessionText(int sessionType)
     }
 }
 
-bool isTaken(const QPoint& place, const QWidget* self)
+/// @p value modulo @p divisor, never negative.
+int wrapped(int value, int divisor)
 {
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    return std::any_of(windows.cbegin(), windows.cend(), [&](const QWidget* window) {
-        const QPoint distance = window->pos() - place;
-        return window != self && window->isVisible() && qobject_cast<const ApproveRemoteConnectionDialog*>(window)
-            && qMax(qAbs(distance.x()), qAbs(distance.y())) < cascadeStep;
-    });
+    return (value % divisor + divisor) % divisor;
 }
 } // namespace
 
@@ -51,8 +47,9 @@ ApproveRemoteConnectionDialog::ApproveRemoteConnectionDialog(QWidget* parent)
     // Unlike the frameless dialogs the prompt shows its own background.
     setAttribute(Qt::WA_TranslucentBackground, false);
     setAttribute(Qt::WA_NoSystemBackground, false);
+    // The person goes on typing where they are, and does not answer a question that they have not read.
+    setAttribute(Qt::WA_ShowWithoutActivating);
     ApproveRemoteConnectionDialog::setupWindow();
-    ui->cancelButton->setFocus();
 
     countdownTimer.setInterval(1000);
     connect(&countdownTimer, &QTimer::timeout, this, &ApproveRemoteConnectionDialog::slCountdownTimerTick);
@@ -153,14 +150,10 @@ const QString& ApproveRemoteConnectionDialog::getConnectionId() const
     return connectionId;
 }
 
-void ApproveRemoteConnectionDialog::setRatio(float ratio)
+int ApproveRemoteConnectionDialog::exec()
 {
-    ratio = usableRatio(ratio);
-    if (ratio == 1.0F)
-        return;
-    const QPoint topLeft = topLeftAtRatio(ratio);
-    scaleSizeLimits(this, ratio);
-    move(topLeft);
+    isEnteringExec = true;
+    return BaseDialog::exec();
 }
 
 void ApproveRemoteConnectionDialog::setVisible(bool visible)
@@ -179,11 +172,12 @@ void ApproveRemoteConnectionDialog::setVisible(bool visible)
     if (!visible)
         return;
 
-    const QPointer<ApproveRemoteConnectionDialog> self(this);
-    refreshCountdown();
-    // Started even when the time is over: hosts get evTimeout once more a second later.
-    if (self)
-        countdownTimer.start();
+    // QDialog::exec() shows the prompt before it enters its event loop. A slot of evTimeout that hid or deleted the
+    // prompt at that moment would leave the loop without an end, or without its dialog.
+    if (std::exchange(isEnteringExec, false) && countdown <= 0)
+        QTimer::singleShot(0, this, &ApproveRemoteConnectionDialog::startCountdown);
+    else
+        startCountdown();
 }
 
 void ApproveRemoteConnectionDialog::accept() { }
@@ -214,6 +208,27 @@ void ApproveRemoteConnectionDialog::setupWindow()
     setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowStaysOnTopHint | Qt::CustomizeWindowHint);
 }
 
+void ApproveRemoteConnectionDialog::scaleBy(float ratio)
+{
+    const QPoint topLeft = topLeftAtRatio(ratio);
+    scaleSizeLimits(this, ratio);
+    move(topLeft);
+}
+
+QWidget* ApproveRemoteConnectionDialog::startWidget()
+{
+    return ui->cancelButton;
+}
+
+void ApproveRemoteConnectionDialog::startCountdown()
+{
+    const QPointer<ApproveRemoteConnectionDialog> self(this);
+    refreshCountdown();
+    // Started even when the time is over: hosts get evTimeout once more a second later.
+    if (self)
+        countdownTimer.start();
+}
+
 void ApproveRemoteConnectionDialog::refreshCountdown()
 {
     if (countdown <= 0) {
@@ -221,7 +236,10 @@ void ApproveRemoteConnectionDialog::refreshCountdown()
         Q_EMIT dialogEvent(this, evTimeout);
         return;
     }
-    (countdownOnCancel != 0 ? ui->cancelButton : ui->allowButton)->setSecondsLeft(countdown);
+    CountdownButton* button = countdownOnCancel != 0 ? ui->cancelButton : ui->allowButton;
+    button->setSecondsLeft(countdown);
+    const qint64 seconds = qMin<qint64>(countdown, std::numeric_limits<int>::max());
+    button->setAccessibleDescription(tr("%n second(s) left to answer", nullptr, static_cast<int>(seconds)));
 }
 
 void ApproveRemoteConnectionDialog::setTitleParts(const QString& session)
@@ -231,16 +249,42 @@ void ApproveRemoteConnectionDialog::setTitleParts(const QString& session)
 
 void ApproveRemoteConnectionDialog::moveOffOtherPrompts()
 {
-    // Each further prompt stands a title bar's height below and right of the one before, so that every name stays
-    // readable; past an edge of the screen the cascade goes on at the opposite one.
-    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-    const int columns = qMax(1, (screen.width() - frameSize().width()) / cascadeStep);
-    const int rows = qMax(1, (screen.height() - frameSize().height()) / cascadeStep);
-    const QPoint start = pos() - screen.topLeft();
-    QPoint place = pos();
-    for (int i = 1; i < columns * rows && isTaken(place, this); ++i) {
-        const QPoint next = start + QPoint(i, i) * cascadeStep;
-        place = screen.topLeft() + QPoint(next.x() % (columns * cascadeStep), next.y() % (rows * cascadeStep));
+    QVector<QPoint> others;
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (const QWidget* window : windows) {
+        if (window != this && window->isVisible() && qobject_cast<const ApproveRemoteConnectionDialog*>(window))
+            others << window->pos();
     }
-    move(place);
+
+    // A step leaves the title bar beneath in sight and is as high as a button. Where two prompts stand side by side,
+    // the new one is further left, or so far right that its Allow does not cover the other one's Cancel.
+    const int step = qMax(1, ui->cancelButton->minimumHeight());
+    const auto isFree = [&](const QPoint& place) {
+        return std::none_of(others.cbegin(), others.cend(), [&](const QPoint& other) {
+            const QPoint offset = place - other;
+            return qAbs(offset.y()) < step && offset.x() > -step && offset.x() < width() / 2;
+        });
+    };
+    if (isFree(pos()))
+        return;
+
+    // Each further prompt stands a step below and right of the one before. Past an edge of the screen the cascade goes
+    // on at the opposite one; when it has been through all rows, it starts again one step to the left. One row is left
+    // out for the frame, which is not known before the first show.
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    const int columns = qMax(1, (screen.width() - width()) / step);
+    const int rows = qMax(1, (screen.height() - height()) / step - 1);
+    const QPoint start = pos() - screen.topLeft();
+    for (int i = 1; i < columns * rows; ++i) {
+        const int row = i % rows;
+        const int column = row - i / rows;
+        const QPoint place(wrapped(start.x() + column * step, columns * step),
+                           wrapped(start.y() + row * step, rows * step));
+        if (isFree(screen.topLeft() + place)) {
+            move(screen.topLeft() + place);
+            return;
+        }
+    }
+    // No place is left. At the left edge Allow covers no Cancel.
+    move(screen.left(), y());
 }

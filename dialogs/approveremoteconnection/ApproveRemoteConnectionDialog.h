@@ -39,7 +39,7 @@ public:
     void setConnectionId(const QString& id) override;
     const QString& getConnectionId() const override;
 
-    void setRatio(float ratio) override;
+    int exec() override;
     /// Starts the countdown with the window, whether it appears through show() or exec(), and stops it with the window.
     void setVisible(bool visible) override;
     /// Nothing: only the two buttons and the countdown answer.
@@ -55,9 +55,12 @@ public Q_SLOTS:
     void on_cancelButton_clicked();
 
 protected:
+    QWidget* startWidget() override;
     void setupWindow() override;
+    void scaleBy(float ratio) override;
 
 private:
+    void startCountdown();
     void refreshCountdown();
     void setTitleParts(const QString& sessionText);
     void moveOffOtherPrompts();
@@ -73,4 +76,5 @@ private:
     QString auxText1;
     QString auxText2;
     QString connectionId;
+    bool isEnteringExec = false;
 };

@@ -7,8 +7,9 @@
 /// Asks the person whether an incoming remote connection may proceed, against a countdown.
 ///
 /// One prompt per pending connection, got and deleted by the connection's id; prompts are independent of each other.
-/// Only its two buttons and the countdown answer it. Names and messages from the remote side are shown as plain text;
-/// control characters in them become visible.
+/// It appears above other windows without taking the focus from what the person is typing; a click or the window
+/// switcher gives the focus to Cancel. Only its two buttons and the countdown answer it. Names and messages from the
+/// remote side are shown as plain text; control characters in them become visible.
 ///
 /// Signal: `dialogEvent(IApproveRemoteConnectionDialog* pSender, IApproveRemoteConnectionDialog::TEvent eventType)`
 class IApproveRemoteConnectionDialog : public virtual IBaseDialog {

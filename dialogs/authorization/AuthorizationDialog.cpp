@@ -5,7 +5,7 @@
 #include "ui_AuthorizationDialog.h"
 
 namespace {
-/// Any user name goes, the empty one included: what a name may look like is the account's affair.
+/// Every user name is valid, the empty one included.
 bool isUsernameValid(const QString&)
 {
     return true;
@@ -40,7 +40,6 @@ AuthorizationDialog::AuthorizationDialog(QWidget* parent)
     connect(ui->lblWebLink, &QLabel::linkActivated, this, &AuthorizationDialog::goToWeb);
 
     setWindowFlag(Qt::WindowStaysOnTopHint);
-    ui->edEmail->setFocus();
 }
 
 AuthorizationDialog::~AuthorizationDialog()
@@ -107,6 +106,11 @@ void AuthorizationDialog::slLogin()
 {
     if (isInputValid())
         Q_EMIT dialogEvent(this, evLogin);
+}
+
+QWidget* AuthorizationDialog::startWidget()
+{
+    return firstEmpty({ui->edEmail, ui->edPassword}, ui->edPassword);
 }
 
 bool AuthorizationDialog::isInputValid() const

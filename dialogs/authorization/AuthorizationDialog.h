@@ -36,6 +36,9 @@ public Q_SLOTS:
     void slClose();
     void slLogin();
 
+protected:
+    QWidget* startWidget() override;
+
 private:
     bool isInputValid() const;
 

@@ -3,17 +3,21 @@
 #include "AccessibleFactory.h"
 #include "BrandingStrings.h"
 #include "DisplayText.h"
+#include "ElidedLabel.h"
 #include "TextAccessible.h"
 
+#include <QAbstractButton>
 #include <QCloseEvent>
 #include <QFont>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLayout>
+#include <QLineEdit>
 #include <QMouseEvent>
 #include <QScreen>
 
+#include <algorithm>
 #include <cmath>
 
 // Initialised while the library is being loaded, which is also when the branding file is read.
@@ -72,22 +76,21 @@ void BaseDialog::done(int result)
 
 int BaseDialog::exec()
 {
+    // A window becomes modal only when it appears.
+    if (isVisible() && !isModal())
+        QDialog::hide();
     return QDialog::exec();
 }
 
 void BaseDialog::setRatio(float ratio)
 {
-    ratio = usableRatio(ratio);
-    if (ratio == 1.0F)
+    if (!std::isfinite(ratio) || ratio <= 0.0F)
         return;
-
-    const QList<QWidget*> children = findChildren<QWidget*>();
-    move(topLeftAtRatio(ratio));
-    resize(scaled(size(), ratio));
-    for (QWidget* child : children) {
-        child->resize(scaled(child->size(), ratio));
-        child->move(scaled(child->pos(), ratio));
-    }
+    const int longest = qMax(width(), height());
+    if (longest > 0)
+        ratio = qMin(ratio, static_cast<float>(longestSide) / static_cast<float>(longest));
+    if (ratio != 1.0F)
+        scaleBy(ratio);
 }
 
 void BaseDialog::mousePressEvent(QMouseEvent* event)
@@ -102,8 +105,10 @@ void BaseDialog::mouseReleaseEvent(QMouseEvent*)
 
 void BaseDialog::mouseMoveEvent(QMouseEvent* event)
 {
+    // move() places the frame, where the window has one; the mouse is measured from within it.
+    const QPoint frame = geometry().topLeft() - pos();
     if (!dragPosition.isNull())
-        move(event->globalPos() - dragPosition);
+        move(event->globalPos() - dragPosition - frame);
 }
 
 void BaseDialog::keyPressEvent(QKeyEvent* event)
@@ -120,6 +125,14 @@ void BaseDialog::closeEvent(QCloseEvent* event)
         event->accept();
     else
         QDialog::closeEvent(event);
+}
+
+void BaseDialog::showEvent(QShowEvent* event)
+{
+    // Spontaneous events come from the window system, which restores what the person has minimised.
+    if (!event->spontaneous())
+        startAfresh();
+    QDialog::showEvent(event);
 }
 
 void BaseDialog::setupWindow()
@@ -140,9 +153,14 @@ void BaseDialog::setCaption(QLabel* prefixLabel, QLabel* titleLabel, const QStri
 {
     prefixLabel->setTextFormat(Qt::PlainText);
     prefixLabel->setText(captionPrefix);
+    if (prefixLabel->sizeHint().width() > prefixLabel->width())
+        prefixLabel->setToolTip(literalToolTip(captionPrefix.trimmed()));
     setTitle(title);
-    if (titleLabel)
-        titleLabel->setText(title);
+    if (!titleLabel)
+        return;
+    titleLabel->setText(title);
+    if (auto* name = qobject_cast<ElidedLabel*>(prefixLabel))
+        name->keepOffTextOf(titleLabel);
 }
 
 void BaseDialog::setTitle(const QString& title)
@@ -152,18 +170,54 @@ void BaseDialog::setTitle(const QString& title)
     setWindowTitle(literalWindowTitle(caption));
 }
 
-float BaseDialog::usableRatio(float ratio) const
+void BaseDialog::scaleBy(float ratio)
 {
-    if (!std::isfinite(ratio) || ratio <= 0.0F)
-        return 1.0F;
-    const int longest = qMax(width(), height());
-    return longest > 0 ? qMin(ratio, static_cast<float>(longestSide) / static_cast<float>(longest)) : ratio;
+    const QList<QWidget*> children = findChildren<QWidget*>();
+    move(topLeftAtRatio(ratio));
+    resize(scaled(size(), ratio));
+    for (QWidget* child : children) {
+        child->resize(scaled(child->size(), ratio));
+        child->move(scaled(child->pos(), ratio));
+    }
 }
 
 QPoint BaseDialog::topLeftAtRatio(float ratio) const
 {
     const float growth = ratio - 1.0F;
     return {truncated(x() - width() * growth * 0.5F), truncated(y() - height() * growth * 0.5F)};
+}
+
+QWidget* BaseDialog::startWidget()
+{
+    return this;
+}
+
+QLineEdit* BaseDialog::firstEmpty(std::initializer_list<QLineEdit*> fields, QLineEdit* otherwise)
+{
+    const auto isEmpty = [](const QLineEdit* field) { return field->text().isEmpty(); };
+    const auto* const first = std::find_if(fields.begin(), fields.end(), isEmpty);
+    return first != fields.end() ? *first : otherwise;
+}
+
+void BaseDialog::startAfresh()
+{
+    dragPosition = QPoint();
+    // In a window that is not active the focus moves without focus events, and the link used last would stay selected.
+    QWidget* const last = focusWidget();
+    if (last && !last->hasFocus()) {
+        QFocusEvent focusOut(QEvent::FocusOut, Qt::OtherFocusReason);
+        QCoreApplication::sendEvent(last, &focusOut);
+    }
+    const auto buttons = findChildren<QAbstractButton*>();
+    for (QAbstractButton* button : buttons)
+        button->setDown(false);
+
+    QWidget* start = startWidget();
+    if (!start->isEnabled())
+        start = this;
+    start->setFocus(Qt::OtherFocusReason);
+    if (auto* field = qobject_cast<QLineEdit*>(start))
+        field->selectAll();
 }
 
 void BaseDialog::scaleSizeLimits(QWidget* root, float ratio)

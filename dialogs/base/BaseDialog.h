@@ -5,8 +5,11 @@
 #include <QDialog>
 #include <QPoint>
 
+#include <initializer_list>
+
 QT_BEGIN_NAMESPACE
 class QLabel;
+class QLineEdit;
 QT_END_NAMESPACE
 
 /// A blank and the agent's name. The blank keeps the name off the logo that stands before it in a caption.
@@ -15,7 +18,8 @@ extern const QString captionPrefix;
 extern const QString productPrefix;
 
 /// What all dialogs have in common: a frameless, translucent window in the middle of the primary screen that is moved
-/// by dragging its surface, accepts on Return and Enter, ignores every other key, and can be scaled.
+/// by dragging its surface, accepts on Return and Enter, ignores every other key, can be scaled, and starts afresh each
+/// time the host shows it.
 class BaseDialog : public QDialog, public virtual IBaseDialog {
     Q_OBJECT
 
@@ -35,6 +39,7 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
     /// Makes the window frameless and translucent and centres it at its present size.
     virtual void setupWindow();
@@ -45,10 +50,18 @@ protected:
     /// Sets window title and tool tip.
     virtual void setTitle(const QString& title);
 
+    /// Scales the window about its centre, and all widgets in it. setRatio() has checked @p ratio and calls this only
+    /// when there is something to change.
+    virtual void scaleBy(float ratio);
+    /// The widget that has the focus whenever the host shows the dialog. In a line edit all text is selected then. By
+    /// default, and when that widget is disabled, the dialog itself: Return and Enter mean accept() there, and no
+    /// button takes a key that the person was typing into another window.
+    virtual QWidget* startWidget();
+    /// The first of @p fields that is empty, @p otherwise when none is.
+    static QLineEdit* firstEmpty(std::initializer_list<QLineEdit*> fields, QLineEdit* otherwise);
+
     // For dialogs whose layouts place the widgets and which therefore scale limits instead of geometries.
 
-    /// @p ratio within the limits of setRatio(): 1 when it must change nothing.
-    float usableRatio(float ratio) const;
     /// Where the dialog's top-left corner goes when it is scaled about its centre.
     QPoint topLeftAtRatio(float ratio) const;
     /// Scales the size limits and layout margins of @p root and all widgets in it.
@@ -56,6 +69,9 @@ protected:
 
 private:
     Q_DISABLE_COPY(BaseDialog)
+
+    /// Brings focus, buttons and dragging back to where they were before the dialog was ever used.
+    void startAfresh();
 
     /// Where in the dialog the mouse went down; (0, 0) while nothing is dragged.
     QPoint dragPosition;

@@ -17,7 +17,8 @@ public:
     /// next show().
     virtual void setModal(bool modal) = 0;
 
-    /// Shows the dialog and returns at once.
+    /// Shows the dialog and returns at once. The focus goes to where it starts, whatever was used the last time: on the
+    /// harmless answer, or in the first empty field; where no field is empty, its text is selected.
     virtual void show() = 0;
 
     /// Hides the dialog. What was set and typed stays.
@@ -27,7 +28,8 @@ public:
     virtual void done(int result) = 0;
 
     /// Shows the dialog modally and returns when the host calls done() or hide(). Returns the result given to done(),
-    /// 0 when it was hidden.
+    /// 0 when it was hidden or deleted. A dialog that is shown already appears anew, as it could not become modal
+    /// otherwise; called again for a dialog that runs already, it returns -1 at once.
     virtual int exec() = 0;
 
     /// Scales the dialog about its centre, and all widgets in it, by @p ratio. 1.0 changes nothing. Ratios multiply:

@@ -2,8 +2,6 @@
 
 #include "ui_EnterPasswordDialog.h"
 
-#include <QShowEvent>
-
 namespace {
 enum AccessMode {
     AdministratorOnly = 0,
@@ -22,6 +20,11 @@ EnterPasswordDialog::EnterPasswordDialog(QWidget* parent)
     setAccessMode(EitherWay);
     setCustomPasswordSelected(false);
 
+    // Typing into a way's field chooses that way.
+    for (const QLineEdit* edit :
+         {ui->editDomain, ui->editLogin, static_cast<QLineEdit*>(ui->editAdministratorPassword)})
+        connect(edit, &QLineEdit::textEdited, this, [this] { setCustomPasswordSelected(false); });
+    connect(ui->editZentPassword, &QLineEdit::textEdited, this, [this] { setCustomPasswordSelected(true); });
     connect(ui->buttonOk, &QPushButton::clicked, this, &EnterPasswordDialog::onOkClicked);
     connect(ui->buttonCancel, &QPushButton::clicked, this, &EnterPasswordDialog::onCancelClicked);
 
@@ -100,7 +103,7 @@ IAttachment* EnterPasswordDialog::getAttachment() const
 
 void EnterPasswordDialog::setAttachment(std::unique_ptr<IAttachment>& attachment)
 {
-    // Released first: also the dialog's own object must survive being handed over.
+    // Released before the comparison: the host may hand over the object that is attached already.
     IAttachment* next = attachment.release();
     if (next != attached.get())
         attached.reset(next);
@@ -126,15 +129,12 @@ void EnterPasswordDialog::accept()
     onOkClicked();
 }
 
-void EnterPasswordDialog::showEvent(QShowEvent* event)
+QWidget* EnterPasswordDialog::startWidget()
 {
-    // Which field is the first one to type into depends on what the host has set meanwhile. The choice may have stayed
-    // with a way that is not offered any more.
-    if (!event->spontaneous()) {
-        const bool custom = isCustomPasswordSelected() && ui->editZentPassword->isEnabled();
-        (custom ? ui->editZentPassword : ui->editDomain)->setFocus();
-    }
-    BaseDialog::showEvent(event);
+    // The checked option may be disabled by now.
+    if (isCustomPasswordSelected() && ui->editZentPassword->isEnabled())
+        return ui->editZentPassword;
+    return firstEmpty({ui->editDomain, ui->editLogin, ui->editAdministratorPassword}, ui->editAdministratorPassword);
 }
 
 void EnterPasswordDialog::applyAccessMode()
@@ -153,4 +153,8 @@ void EnterPasswordDialog::applyAccessMode()
     if (accessMode != EitherWay)
         ui->radioButtonZentModeAccess->setChecked(custom);
     ui->editZentPassword->setEnabled(custom);
+
+    // Qt lets Tab reach one radio button of a group only, which may be disabled by now.
+    ui->radioButtonComputerAdministrator->setFocusPolicy(Qt::StrongFocus);
+    ui->radioButtonZentModeAccess->setFocusPolicy(Qt::StrongFocus);
 }

@@ -43,7 +43,7 @@ public Q_SLOTS:
     void accept() override;
 
 protected:
-    void showEvent(QShowEvent* event) override;
+    QWidget* startWidget() override;
 
 private:
     void applyAccessMode();

@@ -29,8 +29,8 @@ public:
     /// Sets the ways allowed and enables the fields accordingly. Any other value is stored and disables both ways.
     virtual void setAccessMode(int mode) = 0;
 
-    /// Whether the person chose the custom password. In mode 1 always true, in mode 0 false unless the choice was
-    /// moved before.
+    /// Whether the person chose the custom password, by its button or by typing into its field. In mode 1 always true,
+    /// in mode 0 false unless the choice was moved before.
     virtual bool isCustomPasswordSelected() = 0;
     /// Preselects the custom password (true) or the computer administrator (false), as far as the mode allows it.
     virtual void setCustomPasswordSelected(bool selected) = 0;

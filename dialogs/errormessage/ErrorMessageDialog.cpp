@@ -49,10 +49,3 @@ void ErrorMessageDialog::reject()
 {
     Q_EMIT dialogEvent(this, evClose);
 }
-
-void ErrorMessageDialog::showEvent(QShowEvent* event)
-{
-    // Return means "try again". A focused Cancel, whether clicked the last time or the only button, would take the key.
-    setFocus();
-    BaseDialog::showEvent(event);
-}

@@ -31,9 +31,6 @@ public Q_SLOTS:
     void accept() override;
     void reject() override;
 
-protected:
-    void showEvent(QShowEvent* event) override;
-
 private:
     const std::unique_ptr<Ui::ErrorMessageDialog> ui;
 };

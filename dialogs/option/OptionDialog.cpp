@@ -1,5 +1,6 @@
 #include "OptionDialog.h"
 
+#include "WheelGuard.h"
 #include "ui_OptionDialog.h"
 
 OptionDialog::OptionDialog(QWidget* parent) : BaseDialog(parent), ui(std::make_unique<Ui::OptionDialog>())
@@ -22,6 +23,7 @@ OptionDialog::OptionDialog(QWidget* parent) : BaseDialog(parent), ui(std::make_u
     connect(ui->edtAdress, &QLineEdit::textChanged, this, &OptionDialog::doValidateOptions);
     connect(ui->edtProxyLogin, &QLineEdit::textChanged, this, &OptionDialog::doValidateOptions);
 
+    new WheelGuard(ui->spnbxPort);
     doValidateOptions();
 }
 
@@ -146,4 +148,9 @@ void OptionDialog::accept()
 void OptionDialog::reject()
 {
     slClose();
+}
+
+QWidget* OptionDialog::startWidget()
+{
+    return ui->chkShowIcon;
 }

@@ -48,6 +48,9 @@ public Q_SLOTS:
     void accept() override;
     void reject() override;
 
+protected:
+    QWidget* startWidget() override;
+
 private:
     const std::unique_ptr<Ui::OptionDialog> ui;
 };

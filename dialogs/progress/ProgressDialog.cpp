@@ -25,7 +25,7 @@ int tenthInMsecs(float seconds)
 
 int ProgressDialog::nextFrame = 0;
 
-ProgressDialog::ProgressDialog(QWidget* parent)
+ProgressDialog::ProgressDialog(const QString& message, QWidget* parent)
     : BaseDialog(parent), ui(std::make_unique<Ui::ProgressDialog>()), animationTimer(new QTimer(this)),
       waiterTimer(new QTimer(this))
 {
@@ -38,7 +38,7 @@ ProgressDialog::ProgressDialog(QWidget* parent)
     connect(ui->btnCancel, &QPushButton::clicked, this, &ProgressDialog::slCancel);
     connect(ui->btnClose, &QPushButton::clicked, this, &ProgressDialog::slCancel);
     connect(this, &ProgressDialog::progressChanged, this, &ProgressDialog::showProgress);
-    ui->lblMessage->clear();
+    ui->lblMessage->setText(message);
 
     for (int i = 0; i < frameCount; ++i)
         framePaths[static_cast<size_t>(i)] = QStringLiteral(":/images/progress bar/%1.png").arg(i + 1);
@@ -122,7 +122,7 @@ void ProgressDialog::slWaiterTimer()
     const int value = timer->property(waiterValue).toInt();
     setProgress(static_cast<unsigned int>(value), 100);
     if (timer->property(waiterValue).toInt() != value)
-        return; // Started over by whom the progress was told.
+        return; // A slot of progressChanged() has called startWaiter() again.
     const int nextValue = value + waiterStep;
     if (nextValue > 100) {
         timer->stop();
@@ -137,13 +137,6 @@ void ProgressDialog::accept() { }
 void ProgressDialog::reject()
 {
     slClose();
-}
-
-void ProgressDialog::showEvent(QShowEvent* event)
-{
-    // Whoever is typing when the dialog appears must not cancel the work: a focused Cancel would take Return and Space.
-    setFocus();
-    BaseDialog::showEvent(event);
 }
 
 std::shared_ptr<ProgressDialog::FramePictures> ProgressDialog::sharedFramePictures()

@@ -19,7 +19,7 @@ class ProgressDialog final : public BaseDialog, public virtual IProgressDialog {
     Q_OBJECT
 
 public:
-    explicit ProgressDialog(QWidget* parent = nullptr);
+    explicit ProgressDialog(const QString& message, QWidget* parent = nullptr);
     ~ProgressDialog() override;
 
     QString getMessage() const override;
@@ -43,9 +43,6 @@ public Q_SLOTS:
     void slWaiterTimer();
     void accept() override;
     void reject() override;
-
-protected:
-    void showEvent(QShowEvent* event) override;
 
 private:
     static constexpr int frameCount = 24;

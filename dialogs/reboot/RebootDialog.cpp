@@ -17,7 +17,7 @@ constexpr int periodCount = 4;
 // Qt takes quadratic time for nested markup, and a reason that people read is far shorter than this.
 constexpr int longestRichText = 1 << 14;
 
-/// A document that refers to pictures and style sheets in vain: showing a text must not open files or network shares.
+/// A document that never loads external resources: showing a text must not open files or network shares.
 class InertDocument final : public QTextDocument {
 public:
     using QTextDocument::QTextDocument;
@@ -114,24 +114,24 @@ void RebootDialog::closed()
     Q_EMIT dialogEvent(this, evClosed);
 }
 
-void RebootDialog::showEvent(QShowEvent* event)
+QWidget* RebootDialog::startWidget()
 {
-    // The reminder comes back in the middle of somebody's typing, and a Space on the button used last would restart.
-    ui->timeoutComboBox->setFocus(Qt::OtherFocusReason);
-    BaseDialog::showEvent(event);
+    // The dialog may appear while the person types; Space opens a list here and must not press the button used last.
+    return ui->timeoutComboBox;
 }
 
 void RebootDialog::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Escape || event->key() == Qt::Key_Cancel)
         event->accept();
-    else
-        QDialog::keyPressEvent(event);
+    else // Return presses the default button. BaseDialog would call accept(), which ends the dialog without an event.
+        QDialog::keyPressEvent(event); // NOLINT(bugprone-parent-virtual-call)
 }
 
 void RebootDialog::closeEvent(QCloseEvent* event)
 {
     if (!qGuiApp->isSavingSession())
         closed();
+    // BaseDialog would also call reject(), which emits finished().
     event->accept();
 }

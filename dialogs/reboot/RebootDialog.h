@@ -34,7 +34,7 @@ public Q_SLOTS:
     void closed();
 
 protected:
-    void showEvent(QShowEvent* event) override;
+    QWidget* startWidget() override;
     void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 

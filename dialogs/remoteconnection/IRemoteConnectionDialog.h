@@ -8,8 +8,14 @@
 ///
 /// It stands at the bottom right of the primary screen, above other windows, and shows one panel per remote-control
 /// session and one area for a remote-tools session with its activity log. A new session shows the window if it is
-/// hidden, without taking the focus from what the person is typing; it hides itself when nothing is left to show.
+/// hidden or minimised, without taking the focus from what the person is typing; it hides itself when nothing is left
+/// to show. It grows upward from its bottom-right corner, but its header never leaves the screen.
 /// Names, paths and keys from the remote side are shown as plain text; control characters in them become visible.
+///
+/// The operations may be called from the slot that receives an event. An event that is just being received is not
+/// emitted again for the same session unless something has changed: endRemoteToolsSession() called in
+/// evRemoteToolsPopupClosed finds the area closed, and endRemoteControlSession() called in evRemoteControlPopupClosed
+/// finds the panel removed, so it emits evRemoteControlSessionEnded only.
 ///
 /// Signal: `dialogEvent(IRemoteConnectionDialog* pSender, IRemoteConnectionDialog::TEvent eventType,
 /// const QString& sessionId)`

@@ -5,54 +5,47 @@
 #include "DisplayText.h"
 #include "ElapsedTime.h"
 #include "LogsListModel.h"
+#include "PlainToolTip.h"
 #include "RichTextDelegate.h"
+#include "Scaling.h"
 #include "TakeoverPanel.h"
+#include "WindowCorner.h"
 #include "ui_RemoteConnectionDialog.h"
 
 #include <QGraphicsOpacityEffect>
-#include <QGuiApplication>
-#include <QPointer>
-#include <QScreen>
-#include <QScrollBar>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 const char sessionIdProperty[] = "P_SID";
-
-// Beneath frames that give all their children a background, a scroll bar takes its look from its own style sheet only.
-const QLatin1String
-    scrollBarStyle("QScrollBar:vertical { background: #3b4147; width: 11px; margin: 30px 0px 30px 0px;"
-                   " border-radius: 5px; }"
-                   "QScrollBar::handle:vertical { background: #7e8285; min-height: 20px;"
-                   " border-radius: 5px; }"
-                   "QScrollBar::add-line:vertical, QScrollBar::sub-line:vertical { height: 0px; }"
-                   "QScrollBar::add-page:vertical, QScrollBar::sub-page:vertical { background: none; }");
 
 QString sessionIdOf(const QObject* panel)
 {
     return panel ? panel->property(sessionIdProperty).toString() : QString();
 }
-
-bool isOnAnyScreen(const QRect& window)
-{
-    const QList<QScreen*> screens = QGuiApplication::screens();
-    return std::any_of(screens.cbegin(), screens.cend(),
-                       [&](const QScreen* screen) { return screen->availableGeometry().intersects(window); });
-}
 } // namespace
 
 RemoteConnectionDialog::RemoteConnectionDialog(QWidget* parent)
-    : BaseDialog(parent), ui(std::make_unique<Ui::RemoteConnectionDialog>()), logModel(new LogsListModel(this))
+    : BaseDialog(parent), ui(std::make_unique<Ui::RemoteConnectionDialog>()), logModel(new LogsListModel(this)),
+      logDelegate(new RichTextDelegate(this))
 {
     ui->setupUi(this);
+    corner = new WindowCorner(this, ui->header);
     RemoteConnectionDialog::setupWindow();
-    // Nobody's typing may end up in a window that a remote person's arrival has opened.
+    // A remote person's arrival must not take the keyboard from what somebody is typing.
     setAttribute(Qt::WA_ShowWithoutActivating);
+    // The window is hardly ever the active one.
+    setAttribute(Qt::WA_AlwaysShowToolTips);
+    // The focus starts on the window itself and goes back there, so that no key presses a button by accident.
+    setFocusPolicy(Qt::ClickFocus);
 
     ui->logsListView->setModel(logModel);
-    ui->logsListView->setItemDelegate(new RichTextDelegate(this));
-    ui->logsListView->verticalScrollBar()->setStyleSheet(scrollBarStyle);
+    ui->logsListView->setItemDelegate(logDelegate);
+    // The scroll bar has cached the look that the frames around it give it, before the form set the list's style sheet.
+    ui->logsListView->ensurePolished();
+    ui->logsListView->setStyleSheet(ui->logsListView->styleSheet());
+    usePlainToolTip(ui->closeButton);
     ui->dummyTakeoverPanel->hide();
     ui->fileTransportPanel->hide();
     ui->fileTransferInfo->hide();
@@ -64,12 +57,9 @@ RemoteConnectionDialog::RemoteConnectionDialog(QWidget* parent)
 
     updateTimer.setInterval(1000);
     connect(&updateTimer, &QTimer::timeout, this, &RemoteConnectionDialog::slUpdateTime);
-
-    followPrimaryScreen(QGuiApplication::primaryScreen());
-    connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this, &RemoteConnectionDialog::followPrimaryScreen);
-    connect(qGuiApp, &QGuiApplication::screenRemoved, this, &RemoteConnectionDialog::returnToAnchor,
-            Qt::QueuedConnection);
-    fitPathsToWindow();
+    connect(corner, &WindowCorner::workAreaChanged, this, &RemoteConnectionDialog::onAvailableGeometryChanged);
+    layOutNow();
+    fitLogToWindow();
 }
 
 RemoteConnectionDialog::~RemoteConnectionDialog() = default;
@@ -95,28 +85,23 @@ void RemoteConnectionDialog::addRemoteControlSession(const QString& sessionId, c
 
 void RemoteConnectionDialog::endRemoteControlSession(const QString& sessionId)
 {
-    // The text may belong to something that the event handlers delete.
+    // Copy: a slot may destroy the string that sessionId refers to.
     const QString id = sessionId;
     const QPointer<RemoteConnectionDialog> self(this);
     TakeoverPanel* const panel = panels.value(id);
     if (panel && panel->isRunning())
         announceEnd(panel->sessionName());
-    const bool keep = keepPanels;
-    if (!keep)
+    const bool hasChanged = panel && (!keepPanels || panel->isRunning());
+    if (panel)
+        setToolsCloseEnabled(true);
+    if (!keepPanels)
         removePanel(id);
+    else if (panel)
+        showAsEnded(panel);
     if (!self)
         return;
-    // Another panel of that name, if the host has started the session anew when it heard of the removal, is not ended.
-    if (panel && panels.value(id, panel) == panel)
-        setToolsCloseEnabled(true);
-    if (panel && keep) {
-        panel->setEndButtonVisible(false);
-        panel->setCloseButtonVisible(true);
-        panel->setStartTime(QDateTime(), true);
-        updateClockTimer();
-    }
     hideIfEmpty();
-    Q_EMIT dialogEvent(this, evRemoteControlSessionEnded, id);
+    report(evRemoteControlSessionEnded, id, hasChanged);
 }
 
 bool RemoteConnectionDialog::hasRemoteControlSessions() const
@@ -135,9 +120,9 @@ void RemoteConnectionDialog::startRemoteToolsSession(const QString& sessionId, i
     const bool starts = !isToolsSessionRunning() || sessionId != toolsSessionId;
     toolsSessionId = sessionId;
     toolsSessionType = sessionType;
+    toolsUserName = userName;
     ui->toolSessionTypeLabel->setText(sessionType == 1 ? tr("File Transfer Session") : tr("Remote Tool Session"));
-    toolsSessionName = withVisibleControls(userName) + QLatin1String(", ") + ui->toolSessionTypeLabel->text();
-    showUserName(ui->usernameFileTransfer, userName);
+    showToolsUserName();
     if (!isToolsSessionRunning())
         ui->timeElapsedFileTransfer->setText(tr("00:00:00"));
     toolsStartTime = QDateTime::fromMSecsSinceEpoch(startMsecsSinceEpoch, Qt::UTC);
@@ -148,24 +133,24 @@ void RemoteConnectionDialog::startRemoteToolsSession(const QString& sessionId, i
     setPartVisible(ui->fileTransportPanel, true);
     showForSession();
     if (starts)
-        announceStart(toolsSessionName);
+        announceStart(toolsSessionName());
 }
 
 void RemoteConnectionDialog::endRemoteToolsSession(const QString& sessionId)
 {
     const QString id = sessionId;
     const QPointer<RemoteConnectionDialog> self(this);
-    // It ends first: when the host hears that the area has closed, it may start the next session.
+    // End the session first: a slot may start the next one when it is told that the area has closed.
     const bool wasRunning = isToolsSessionRunning();
     if (wasRunning)
-        announceEnd(toolsSessionName);
+        announceEnd(toolsSessionName());
     toolsStartTime = QDateTime();
     showToolsButtons(false, true);
     updateClockTimer();
     if (!keepToolsPopup)
         closeToolsPopup();
     if (self && wasRunning)
-        Q_EMIT dialogEvent(this, evRemoteToolsSessionEnded, id);
+        report(evRemoteToolsSessionEnded, id, true);
 }
 
 bool RemoteConnectionDialog::isRemoteToolsPopupShown() const
@@ -210,29 +195,32 @@ int RemoteConnectionDialog::remoteToolsValue() const
     return toolsSessionType;
 }
 
-void RemoteConnectionDialog::setRatio(float newRatio)
+void RemoteConnectionDialog::scaleBy(float newRatio)
 {
-    newRatio = usableRatio(newRatio);
-    if (newRatio == 1.0F)
-        return;
-    ratio *= newRatio;
-    storeAnchor();
     const QPoint topLeft = topLeftAtRatio(newRatio);
-    for (QObject* part : children()) {
-        if (part->isWidgetType())
-            scaleSizeLimits(static_cast<QWidget*>(part), newRatio);
-    }
-    fitPathsToWindow();
-    if (anchor.isNull())
+    fullRatio *= newRatio;
+    for (QWidget* part : {static_cast<QWidget*>(ui->header), static_cast<QWidget*>(ui->fileTransportPanel)})
+        scalePixels(part, newRatio, fullRatio);
+    // An icon is never drawn larger than its picture.
+    QPixmap cross(QStringLiteral(":/images/close_status_window@2x.png"));
+    cross.setDevicePixelRatio(1);
+    ui->closeButton->setIcon(cross.scaled(ui->closeButton->iconSize(), Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    for (TakeoverPanel* panel : qAsConst(panels))
+        panel->scaleBy(newRatio, fullRatio);
+    showToolsUserName();
+    logDelegate->setRatio(fullRatio);
+    if (!corner->isSet())
         move(topLeft);
-    else
-        returnToAnchor();
+    corner->resize(fittingSize());
+    fitLogToWindow();
 }
 
 void RemoteConnectionDialog::setVisible(bool visible)
 {
-    if (visible)
-        moveToCorner();
+    if (visible) {
+        showAndHideParts();
+        corner->moveToScreen(fittingSize());
+    }
     BaseDialog::setVisible(visible);
 }
 
@@ -267,12 +255,13 @@ void RemoteConnectionDialog::on_btnCloseRemoteToolsPopup_clicked()
 void RemoteConnectionDialog::on_btnEndRemoteToolsSession_clicked()
 {
     showToolsButtons(false, true);
-    Q_EMIT dialogEvent(this, evEndRemoteToolsSession, QString(toolsSessionId));
+    report(evEndRemoteToolsSession, toolsSessionId, true);
 }
 
 void RemoteConnectionDialog::onAvailableGeometryChanged(QRect)
 {
-    moveToCorner();
+    if (corner->isSet())
+        corner->moveToScreen(fittingSize());
 }
 
 void RemoteConnectionDialog::onEndRemoteControlSession()
@@ -296,19 +285,29 @@ TakeoverPanel* RemoteConnectionDialog::createPanel(const QString& sessionId)
     auto* panel = new TakeoverPanel(this);
     panel->hide();
     panel->setProperty(sessionIdProperty, sessionId);
-    scaleSizeLimits(panel, ratio);
+    panel->scaleBy(fullRatio, fullRatio);
     connect(panel, &TakeoverPanel::endRemoteControlSession, this, &RemoteConnectionDialog::onEndRemoteControlSession);
     connect(panel, &TakeoverPanel::closeRemoteControlPopup, this, &RemoteConnectionDialog::onCloseRemoteControlPopup);
     ui->verticalLayout->insertWidget(1, panel);
+    panel->setTabOrderAfter(ui->closeButton);
     panels.insert(sessionId, panel);
     return panel;
+}
+
+void RemoteConnectionDialog::showAsEnded(TakeoverPanel* panel)
+{
+    panel->setEndButtonVisible(false);
+    panel->setCloseButtonVisible(true);
+    panel->setStartTime(QDateTime(), true);
+    updateClockTimer();
 }
 
 void RemoteConnectionDialog::removePanel(const QString& sessionId)
 {
     const QString id = sessionId;
-    if (TakeoverPanel* const panel = panels.take(id)) {
-        storeAnchor();
+    TakeoverPanel* const panel = panels.take(id);
+    if (panel) {
+        takeFocusFrom(panel);
         ui->verticalLayout->removeWidget(panel);
         panel->setParent(nullptr);
         // Later, as the click that removes it comes from one of its own buttons.
@@ -316,10 +315,10 @@ void RemoteConnectionDialog::removePanel(const QString& sessionId)
         if (panels.isEmpty())
             setToolsCloseEnabled(true);
         updateClockTimer();
-        returnToAnchor();
+        scheduleLayout();
     }
     hideIfEmpty();
-    Q_EMIT dialogEvent(this, evRemoteControlPopupClosed, id);
+    report(evRemoteControlPopupClosed, id, panel);
 }
 
 bool RemoteConnectionDialog::isToolsSessionRunning() const
@@ -327,26 +326,46 @@ bool RemoteConnectionDialog::isToolsSessionRunning() const
     return !toolsStartTime.isNull();
 }
 
+void RemoteConnectionDialog::showToolsUserName()
+{
+    showUserName(ui->usernameFileTransfer, toolsUserName);
+    const QString title = ui->toolSessionTypeLabel->text();
+    nameSessionButton(ui->btnEndRemoteToolsSession, tr("End session", "in full"), title, toolsUserName);
+    nameSessionButton(ui->btnCloseRemoteToolsPopup, ui->btnCloseRemoteToolsPopup->text(), title, toolsUserName);
+}
+
 void RemoteConnectionDialog::closeToolsPopup()
 {
+    const bool wasShown = toolsPopupShown;
     toolsPopupShown = false;
     setPartVisible(ui->fileTransportPanel, false);
     clearLog();
     hideIfEmpty();
-    Q_EMIT dialogEvent(this, evRemoteToolsPopupClosed, QString(toolsSessionId));
+    report(evRemoteToolsPopupClosed, toolsSessionId, wasShown);
 }
 
 void RemoteConnectionDialog::showToolsButtons(bool end, bool close)
 {
+    if (!end)
+        takeFocusFrom(ui->btnEndRemoteToolsSession);
+    if (!close)
+        takeFocusFrom(ui->btnCloseRemoteToolsPopup);
     ui->btnEndRemoteToolsSession->setVisible(end);
     ui->btnCloseRemoteToolsPopup->setVisible(close);
 }
 
 void RemoteConnectionDialog::setToolsCloseEnabled(bool enabled)
 {
+    if (!enabled)
+        takeFocusFrom(ui->btnCloseRemoteToolsPopup);
     ui->btnCloseRemoteToolsPopup->setEnabled(enabled);
     // The button's own style sheet has one colour for both states.
     ui->btnCloseRemoteToolsPopup->graphicsEffect()->setEnabled(!enabled);
+}
+
+QString RemoteConnectionDialog::toolsSessionName() const
+{
+    return withVisibleControls(toolsUserName) + QLatin1String(", ") + ui->toolSessionTypeLabel->text();
 }
 
 void RemoteConnectionDialog::announceStart(const QString& sessionName)
@@ -363,6 +382,11 @@ void RemoteConnectionDialog::announceEnd(const QString& sessionName)
 
 void RemoteConnectionDialog::showForSession()
 {
+    if (isMinimized()) {
+        // Restoring would activate it on some systems. Not hide(), which would end an exec().
+        QWidget::setVisible(false);
+        setWindowState(windowState() & ~Qt::WindowMinimized);
+    }
     if (isHidden())
         show();
 }
@@ -383,64 +407,70 @@ void RemoteConnectionDialog::updateClockTimer()
         updateTimer.start();
 }
 
-void RemoteConnectionDialog::fitPathsToWindow()
+void RemoteConnectionDialog::report(TEvent event, const QString& sessionId, bool hasChanged)
 {
-    fitSize();
-    ui->logsListView->ensurePolished();
-    logModel->setPathDisplay(ui->logsListView->font(), qMax(width() / 3, 178));
+    const auto reported = qMakePair(event, sessionId);
+    // A slot may call the very operation that it is being told of.
+    if (!hasChanged && eventsBeingEmitted.contains(reported))
+        return;
+    const QPointer<RemoteConnectionDialog> self(this);
+    eventsBeingEmitted.append(reported);
+    Q_EMIT dialogEvent(this, reported.first, reported.second);
+    if (self)
+        eventsBeingEmitted.removeOne(reported);
 }
 
 void RemoteConnectionDialog::setPartVisible(QWidget* part, bool visible)
 {
-    storeAnchor();
-    // With the next turn of the event loop, when the layout knows of all that this turn changes.
-    QTimer::singleShot(0, this, [this, part = QPointer<QWidget>(part), visible] {
-        if (part && isAncestorOf(part))
-            part->setVisible(visible);
-        returnToAnchor();
-    });
+    partsToChange.append(qMakePair(QPointer<QWidget>(part), visible));
+    scheduleLayout();
 }
 
-void RemoteConnectionDialog::fitSize()
+void RemoteConnectionDialog::scheduleLayout()
+{
+    // Deferred, so that several changes cause one layout.
+    if (!std::exchange(isLayoutScheduled, true))
+        QTimer::singleShot(0, this, &RemoteConnectionDialog::layOutNow);
+}
+
+void RemoteConnectionDialog::layOutNow()
+{
+    isLayoutScheduled = false;
+    showAndHideParts();
+    corner->resize(fittingSize());
+}
+
+void RemoteConnectionDialog::showAndHideParts()
+{
+    // Each part that appears would activate the layout.
+    layout()->setEnabled(false);
+    for (const auto& change : std::exchange(partsToChange, {})) {
+        QWidget* const part = change.first;
+        if (!part || !isAncestorOf(part))
+            continue;
+        if (!change.second)
+            takeFocusFrom(part);
+        part->setVisible(change.second);
+    }
+    layout()->setEnabled(true);
+}
+
+QSize RemoteConnectionDialog::fittingSize()
 {
     ensurePolished();
     // The window's layout hears by itself only with the next turn what has changed inside a part.
     ui->fileTransportPanel->updateGeometry();
+    layout()->invalidate();
     layout()->activate();
-    resize(layout()->sizeHint());
+    return layout()->sizeHint();
 }
 
-void RemoteConnectionDialog::storeAnchor()
+void RemoteConnectionDialog::fitLogToWindow()
 {
-    if (!anchor.isNull())
-        anchor = pos() + QPoint(width(), height());
-}
-
-void RemoteConnectionDialog::returnToAnchor()
-{
-    fitSize();
-    if (anchor.isNull())
-        return;
-    move(anchor - QPoint(width(), height()));
-    if (!isOnAnyScreen(geometry()))
-        moveToCorner();
-}
-
-void RemoteConnectionDialog::moveToCorner()
-{
-    fitSize();
-    const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
-    move(area.x() + area.width() - width(), area.y() + area.height() - height());
-    anchor = pos() + QPoint(width(), height());
-}
-
-void RemoteConnectionDialog::followPrimaryScreen(QScreen* screen)
-{
-    disconnect(workAreaConnection);
-    if (!screen)
-        return;
-    workAreaConnection =
-        connect(screen, &QScreen::availableGeometryChanged, this, &RemoteConnectionDialog::onAvailableGeometryChanged);
-    if (!anchor.isNull())
-        moveToCorner();
+    ui->logsListView->ensurePolished();
+    const QMargins margins = ui->logsListLayout->contentsMargins();
+    const int listWidth = width() - margins.left() - margins.right();
+    // Part of every path stays legible, however narrow the window.
+    const int pathWidth = qMax(width() / 3, qRound(178 * fullRatio));
+    logModel->setRowDisplay(ui->logsListView->font(), ui->logsListView->textWidth(listWidth), pathWidth);
 }

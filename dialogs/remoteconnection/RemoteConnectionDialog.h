@@ -5,15 +5,19 @@
 
 #include <QDateTime>
 #include <QMap>
+#include <QPair>
+#include <QPointer>
 #include <QTimer>
+#include <QVector>
 
 #include <memory>
 
 class LogsListModel;
+class RichTextDelegate;
 class TakeoverPanel;
+class WindowCorner;
 
 QT_BEGIN_NAMESPACE
-class QScreen;
 namespace Ui {
 class RemoteConnectionDialog;
 }
@@ -44,9 +48,7 @@ public:
     void addEmptyLogRow() override;
     int remoteToolsValue() const override;
 
-    /// Scales the panels that come later too.
-    void setRatio(float newRatio) override;
-    /// Puts the window into the corner whenever it is shown.
+    /// Puts the window into the corner of the screen whenever it is shown.
     void setVisible(bool visible) override;
     /// Nothing: the sessions decide when the window goes.
     void accept() override;
@@ -68,43 +70,55 @@ public Q_SLOTS:
 
 protected:
     void setupWindow() override;
+    /// Scales the panels that come later too.
+    void scaleBy(float newRatio) override;
 
 private:
     TakeoverPanel* createPanel(const QString& sessionId);
+    void showAsEnded(TakeoverPanel* panel);
     void removePanel(const QString& sessionId);
     bool isToolsSessionRunning() const;
+    void showToolsUserName();
     void closeToolsPopup();
     void showToolsButtons(bool end, bool close);
     void setToolsCloseEnabled(bool enabled);
+    /// For screen readers: whose session it is, and of which kind.
+    QString toolsSessionName() const;
     void announceStart(const QString& sessionName);
     void announceEnd(const QString& sessionName);
     void showForSession();
     void hideIfEmpty();
     void updateClockTimer();
-    void fitPathsToWindow();
+    /// Emits an event, unless it is being emitted for that id already and nothing has changed since.
+    void report(TEvent event, const QString& sessionId, bool hasChanged);
 
     void setPartVisible(QWidget* part, bool visible);
-    void fitSize();
-    void storeAnchor();
-    void returnToAnchor();
-    void moveToCorner();
-    void followPrimaryScreen(QScreen* screen);
+    void scheduleLayout();
+    void layOutNow();
+    void showAndHideParts();
+    QSize fittingSize();
+    void fitLogToWindow();
 
     const std::unique_ptr<Ui::RemoteConnectionDialog> ui;
     QMap<QString, TakeoverPanel*> panels;
     QString toolsSessionId;
-    /// For screen readers: whose session it is, and of which kind.
-    QString toolsSessionName;
+    QString toolsUserName;
     /// Null while no tools session runs.
     QDateTime toolsStartTime;
     bool keepPanels = false;
     bool keepToolsPopup = false;
     bool toolsPopupShown = false;
     int toolsSessionType = 0;
-    /// Right and bottom of the window; null until it is shown for the first time.
-    QPoint anchor;
+    /// The events that the host is just being told.
+    QVector<QPair<TEvent, QString>> eventsBeingEmitted;
+
+    WindowCorner* corner = nullptr;
+    /// What the next layout shows and hides.
+    QVector<QPair<QPointer<QWidget>, bool>> partsToChange;
+    bool isLayoutScheduled = false;
+    float fullRatio = 1.0F;
+
     QTimer updateTimer{this};
     LogsListModel* const logModel;
-    float ratio = 1.0F;
-    QMetaObject::Connection workAreaConnection;
+    RichTextDelegate* const logDelegate;
 };

@@ -1,22 +1,78 @@
 #include "DetailsEdit.h"
 
 #include <QMimeData>
+#include <QTextBlock>
+#include <QTextLayout>
 
-void DetailsEdit::setInsertionLimit(int length)
+#include <algorithm>
+
+namespace {
+/// The last position up to @p limit that does not lie within what a person sees as one character.
+int characterBoundary(QTextDocument* document, int limit)
 {
-    insertionLimit = length;
+    QTextCursor cursor(document);
+    cursor.setPosition(limit);
+    // An empty line has no layout that could say so.
+    if (!cursor.atBlockStart() && !cursor.block().layout()->isValidCursorPosition(cursor.positionInBlock()))
+        cursor.movePosition(QTextCursor::PreviousCharacter);
+    return cursor.position();
+}
+
+/// Makes @p text of the document in one step, which changes only what differs.
+void replaceDifference(QTextDocument* document, const QString& text)
+{
+    const QString before = document->toRawText();
+    const auto [oldDifference, newDifference] = std::mismatch(before.begin(), before.end(), text.begin(), text.end());
+    const auto [oldEnd, newEnd] = std::mismatch(before.rbegin(), std::make_reverse_iterator(oldDifference),
+                                                text.rbegin(), std::make_reverse_iterator(newDifference));
+    if (oldEnd.base() == oldDifference && newEnd.base() == newDifference)
+        return;
+    QTextCursor cursor(document);
+    cursor.setPosition(static_cast<int>(oldDifference - before.begin()));
+    cursor.setPosition(static_cast<int>(oldEnd.base() - before.begin()), QTextCursor::KeepAnchor);
+    cursor.insertText(QString(newDifference, static_cast<int>(newEnd.base() - newDifference)));
+}
+} // namespace
+
+DetailsEdit::DetailsEdit(QWidget* parent) : QTextEdit(parent)
+{
+    connect(document(), &QTextDocument::contentsChange, this, [this](int position) { editPosition = position; });
+}
+
+void DetailsEdit::setMaxLength(int length)
+{
+    maxLength = length;
+}
+
+void DetailsEdit::cutSurplus()
+{
+    // The document ends with a paragraph mark that is no part of the text. What undo brings back, also from before the
+    // limit, stays; only undo leaves something to redo.
+    if (maxLength <= 0 || document()->characterCount() - 1 <= maxLength || document()->isRedoAvailable())
+        return;
+    // What stood before the edit is not split by it: a combining mark typed at the limit leaves its letter alone.
+    const int end = qMax(characterBoundary(document(), maxLength), qMin(editPosition, maxLength));
+    const QString kept = document()->toRawText().left(end);
+    // Taking the edit back first leaves one step in the history. That may have begun before the edit, with what was
+    // typed just before it, which comes again together with it.
+    const bool isUndoable = document()->isUndoAvailable();
+    if (isUndoable)
+        document()->undo();
+    replaceDifference(document(), kept);
+    document()->clearUndoRedoStacks(isUndoable ? QTextDocument::RedoStack : QTextDocument::UndoAndRedoStacks);
+    moveCursor(QTextCursor::End);
 }
 
 void DetailsEdit::insertFromMimeData(const QMimeData* source)
 {
     // The document has one character for a line's end.
     const QString text = source->text().replace(QLatin1String("\r\n"), QLatin1String("\n"));
-    if (insertionLimit <= 0 || text.size() <= insertionLimit) {
+    if (maxLength <= 0 || text.size() <= maxLength) {
         QTextEdit::insertFromMimeData(source);
         return;
     }
-    // One more than fits, so that the form still sees that something is to be cut, and where a character ends.
+    // One more than fits, so that it is seen that something is to be cut, and where a character ends.
     QMimeData beginning;
-    beginning.setText(text.left(insertionLimit + 1));
+    beginning.setText(text.left(maxLength + 1));
     QTextEdit::insertFromMimeData(&beginning);
 }

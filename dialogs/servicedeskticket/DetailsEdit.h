@@ -2,20 +2,25 @@
 
 #include <QTextEdit>
 
-/// A text edit that takes no more of a paste or drop than its form will keep: laying out megabytes that are cut away at
-/// once would freeze the window.
+/// A text edit with a length limit: what is too long is cut at the end of the text. Undo then goes from the cut text
+/// straight to what was there before.
 class DetailsEdit : public QTextEdit {
     Q_OBJECT
 
 public:
-    using QTextEdit::QTextEdit;
+    explicit DetailsEdit(QWidget* parent = nullptr);
 
-    /// Zero or less takes everything.
-    void setInsertionLimit(int length);
+    /// Zero or less lifts the limit. Longer text that is already there stays until the next edit.
+    void setMaxLength(int length);
+    /// For the slot that hears of a change. Never splits what a person sees as one character.
+    void cutSurplus();
 
 protected:
+    /// Takes no more than will be kept: laying out megabytes that are cut away at once would freeze the window.
     void insertFromMimeData(const QMimeData* source) override;
 
 private:
-    int insertionLimit = 0;
+    int maxLength = 0;
+    /// Where the latest edit began.
+    int editPosition = 0;
 };

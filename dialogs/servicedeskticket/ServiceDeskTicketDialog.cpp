@@ -2,16 +2,15 @@
 
 #include "BrandingStrings.h"
 #include "DisplayText.h"
+#include "WheelGuard.h"
 #include "ui_ServiceDeskTicketDialog.h"
 
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QPointer>
 #include <QScopedValueRollback>
-#include <QTextBlock>
-#include <QTextLayout>
 
-#include <algorithm>
+#include <utility>
 
 namespace {
 /// What a line edit allows when nobody limits it.
@@ -34,29 +33,6 @@ void fadePlaceholder(QWidget* field)
     palette.setColor(QPalette::PlaceholderText, color);
     field->setPalette(palette);
 }
-
-int indexOfHalfPair(const QString& text)
-{
-    for (int i = 0; i < text.size(); ++i) {
-        const bool isPair = text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate();
-        if (isPair)
-            ++i;
-        else if (text[i].isSurrogate())
-            return i;
-    }
-    return -1;
-}
-
-/// The last position up to @p limit that does not lie within what a person sees as one character.
-int characterBoundary(QTextDocument* document, int limit)
-{
-    QTextCursor cursor(document);
-    cursor.setPosition(limit);
-    // An empty line has no layout that could say so.
-    if (!cursor.atBlockStart() && !cursor.block().layout()->isValidCursorPosition(cursor.positionInBlock()))
-        cursor.movePosition(QTextCursor::PreviousCharacter);
-    return cursor.position();
-}
 } // namespace
 
 ServiceDeskTicketDialog::ServiceDeskTicketDialog(QWidget* parent)
@@ -73,16 +49,22 @@ ServiceDeskTicketDialog::ServiceDeskTicketDialog(QWidget* parent)
     connect(ui->bnSubmit, &QPushButton::clicked, this, &ServiceDeskTicketDialog::slSubmit);
     connect(ui->bnCancel, &QPushButton::clicked, this, &ServiceDeskTicketDialog::slClose);
     connect(ui->btnClose, &QPushButton::clicked, this, &ServiceDeskTicketDialog::slClose);
-    connect(this, &QDialog::accepted, this, &ServiceDeskTicketDialog::slSubmit);
-    connect(ui->edSubject, &QLineEdit::textChanged, this, &ServiceDeskTicketDialog::dropHalfCharacter);
+    connect(this, &QDialog::accepted, this, [this] {
+        // A host may answer a submission by accepting the dialog; that is not another one.
+        if (!submitting)
+            slSubmit();
+    });
     connect(ui->edSubject, &QLineEdit::textChanged, this, &ServiceDeskTicketDialog::validate);
-    connect(ui->txIssueDetails->document(), &QTextDocument::contentsChange, this,
-            [this](int position) { editPosition = position; });
     connect(ui->txIssueDetails, &QTextEdit::textChanged, this, &ServiceDeskTicketDialog::slIssueDetailsTextChanged);
     connect(ui->cbDepartment, &QComboBox::currentTextChanged, this, &ServiceDeskTicketDialog::validate);
     connect(ui->cbPriorityLevel, &QComboBox::currentTextChanged, this, &ServiceDeskTicketDialog::validate);
     connect(ui->ckIncludeDeviceData, &QCheckBox::stateChanged, this, &ServiceDeskTicketDialog::validate);
-    connect(ui->lbIncludeDeviceDataText, &QLabelEx::click, ui->ckIncludeDeviceData, &QCheckBox::toggle);
+    connect(ui->lbIncludeDeviceDataText, &QLabelEx::click, ui->ckIncludeDeviceData, [this] {
+        if (QGuiApplication::mouseButtons() == Qt::LeftButton)
+            ui->ckIncludeDeviceData->toggle();
+    });
+    new WheelGuard(ui->cbDepartment);
+    new WheelGuard(ui->cbPriorityLevel);
 
     setWindowFlag(Qt::WindowStaysOnTopHint);
 }
@@ -192,23 +174,20 @@ int ServiceDeskTicketDialog::getIssueDetailsMaxLength() const
 
 void ServiceDeskTicketDialog::setIssueDetailsMaxLength(int length)
 {
-    // Longer text that is already there stays until the next edit, which brings it within the limit.
     issueDetailsMaxLength = length;
-    ui->txIssueDetails->setInsertionLimit(length);
+    ui->txIssueDetails->setMaxLength(length);
     ui->txIssueDetails->setPlaceholderText(placeholder(length));
     updateSubmitButton();
 }
 
 void ServiceDeskTicketDialog::slSubmit()
 {
-    // A host may answer by accepting the dialog, which leads here again.
-    if (submitting)
-        return;
-    submitting = true;
     const QPointer<ServiceDeskTicketDialog> self(this);
+    const bool withinSubmission = submitting;
+    submitting = true;
     Q_EMIT dialogEvent(this, evSubmit);
     if (self)
-        submitting = false;
+        submitting = withinSubmission;
 }
 
 void ServiceDeskTicketDialog::slClose()
@@ -221,20 +200,7 @@ void ServiceDeskTicketDialog::slClose()
 
 void ServiceDeskTicketDialog::slIssueDetailsTextChanged()
 {
-    QTextDocument* document = ui->txIssueDetails->document();
-    if (issueDetailsMaxLength > 0 && document->characterCount() - 1 > issueDetailsMaxLength) {
-        // What stood before the edit is not split by it: a combining mark typed at the limit leaves its letter alone.
-        const int begin =
-            qMax(characterBoundary(document, issueDetailsMaxLength), qMin(editPosition, issueDetailsMaxLength));
-        QTextCursor surplus(document);
-        // Undo takes back the edit and its cut together.
-        surplus.joinPreviousEditBlock();
-        surplus.setPosition(begin);
-        surplus.movePosition(QTextCursor::End, QTextCursor::KeepAnchor);
-        surplus.removeSelectedText();
-        surplus.endEditBlock();
-        ui->txIssueDetails->moveCursor(QTextCursor::End);
-    }
+    ui->txIssueDetails->cutSurplus();
     validate();
 }
 
@@ -242,6 +208,12 @@ bool ServiceDeskTicketDialog::validate()
 {
     changed = true;
     return updateSubmitButton();
+}
+
+QWidget* ServiceDeskTicketDialog::startWidget()
+{
+    const bool onlyDetailsEmpty = !ui->edSubject->text().isEmpty() && ui->txIssueDetails->document()->isEmpty();
+    return onlyDetailsEmpty ? static_cast<QWidget*>(ui->txIssueDetails) : ui->edSubject;
 }
 
 void ServiceDeskTicketDialog::showEvent(QShowEvent* event)
@@ -253,10 +225,16 @@ void ServiceDeskTicketDialog::showEvent(QShowEvent* event)
 
 void ServiceDeskTicketDialog::keyPressEvent(QKeyEvent* event)
 {
-    if (event->matches(QKeySequence::Cancel))
+    if (event->matches(QKeySequence::Cancel)) {
         slClose();
-    else
-        BaseDialog::keyPressEvent(event);
+        return;
+    }
+    // While a host still handles a submission it may run the dialog again: there Return submits anew.
+    const QPointer<ServiceDeskTicketDialog> self(this);
+    const bool withinSubmission = std::exchange(submitting, false);
+    BaseDialog::keyPressEvent(event);
+    if (self)
+        submitting = withinSubmission;
 }
 
 bool ServiceDeskTicketDialog::updateSubmitButton()
@@ -279,22 +257,10 @@ bool ServiceDeskTicketDialog::isIssueDetailsValid() const
     return length > 0 && (issueDetailsMaxLength <= 0 || length <= issueDetailsMaxLength);
 }
 
-void ServiceDeskTicketDialog::dropHalfCharacter()
-{
-    // The line edit cuts at its limit without regard for surrogate pairs.
-    const QString text = ui->edSubject->text();
-    const int half = text.size() < ui->edSubject->maxLength() ? -1 : indexOfHalfPair(text);
-    if (half < 0)
-        return;
-    ui->edSubject->setSelection(half, 1);
-    ui->edSubject->del();
-}
-
 bool ServiceDeskTicketDialog::confirmDiscard()
 {
     // The host may delete the dialog, and the question with it, while the question waits for its answer.
     const QPointer<QMessageBox> question(new QMessageBox(this));
-    question->setFont(font());
     question->setWindowFlags(question->windowFlags() | Qt::WindowStaysOnTopHint);
     question->setWindowTitle(literalWindowTitle(brandingStrings().companyName + QLatin1String(" Client")));
     question->setTextFormat(Qt::RichText);
@@ -310,6 +276,10 @@ bool ServiceDeskTicketDialog::confirmDiscard()
     question->button(QMessageBox::Discard)->setText(tr("Ok"));
     //: Goes back to the ticket
     question->button(QMessageBox::Cancel)->setText(tr("Cancel"));
+    // A font set on the box alone gives way to the desktop's own fonts for labels and buttons of message boxes.
+    const QList<QWidget*> parts = question->findChildren<QWidget*>();
+    for (QWidget* part : parts)
+        part->setFont(font());
 
     const bool discard = question->exec() == QMessageBox::Discard;
     delete question;

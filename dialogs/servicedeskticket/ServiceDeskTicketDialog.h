@@ -53,6 +53,7 @@ public Q_SLOTS:
     bool validate();
 
 protected:
+    QWidget* startWidget() override;
     void showEvent(QShowEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
@@ -60,7 +61,6 @@ private:
     bool updateSubmitButton();
     bool isSubjectValid() const;
     bool isIssueDetailsValid() const;
-    void dropHalfCharacter();
     bool confirmDiscard();
     void setItems(QComboBox* comboBox, const QStringList& items);
     void setItem(QComboBox* comboBox, const QString& item);
@@ -69,7 +69,6 @@ private:
     /// Whether the person edited something that closing would lose.
     bool changed = false;
     int issueDetailsMaxLength = 0;
-    /// Where the latest edit of the details began.
-    int editPosition = 0;
+    /// While the host's slot for evSubmit runs.
     bool submitting = false;
 };

@@ -18,7 +18,6 @@ ZentPasswordDialog::ZentPasswordDialog(QWidget* parent)
     connect(ui->btnCancel, &QPushButton::clicked, this, &ZentPasswordDialog::slClose);
 
     setModal(true);
-    ui->edPassword->setFocus();
 }
 
 ZentPasswordDialog::~ZentPasswordDialog() = default;
@@ -62,6 +61,11 @@ void ZentPasswordDialog::slContinue()
 {
     if (hasPassword())
         Q_EMIT dialogEvent(this, evContinue);
+}
+
+QWidget* ZentPasswordDialog::startWidget()
+{
+    return ui->edPassword;
 }
 
 bool ZentPasswordDialog::hasPassword() const

@@ -32,6 +32,9 @@ public Q_SLOTS:
     void slClose();
     void slContinue();
 
+protected:
+    QWidget* startWidget() override;
+
 private:
     bool hasPassword() const;
 

@@ -46,15 +46,14 @@ void readFile(BrandingStrings& strings, const QString& path)
     read("supportPhone", strings.supportPhone);
     strings.productFullName = strings.companyName + QLatin1Char(' ') + strings.agentName;
 }
-} // namespace
 
-BrandingStrings::BrandingStrings(const QString& directory)
+void readDirectory(BrandingStrings& strings, const QString& directory)
 {
     const QString path = directory + QDir::separator() + QStringLiteral("oem.strings");
     qDebug().nospace() << "Try to find oem.strings in " << path;
     if (QFile::exists(path)) {
         try {
-            readFile(*this, path);
+            readFile(strings, path);
         } catch (const std::bad_alloc&) {
             // Such an object behind escapes; what was read before it stays.
         }
@@ -62,6 +61,13 @@ BrandingStrings::BrandingStrings(const QString& directory)
     } else {
         qDebug().nospace() << "OEM strings file does not exists! " << path;
     }
+}
+} // namespace
+
+BrandingStrings::BrandingStrings(const QString& directory)
+{
+    if (!directory.isEmpty())
+        readDirectory(*this, directory);
 
     QDir directoryOfAllUsers(QProcessEnvironment::systemEnvironment().value(QStringLiteral("ALLUSERSPROFILE")));
     directoryOfAllUsers.cd(vendorName + productDirectory);
@@ -70,6 +76,8 @@ BrandingStrings::BrandingStrings(const QString& directory)
 
 const BrandingStrings& brandingStrings()
 {
-    static const BrandingStrings strings(QCoreApplication::applicationDirPath());
+    // Without an application nobody knows the directory of the executable.
+    static const BrandingStrings strings(QCoreApplication::instance() ? QCoreApplication::applicationDirPath()
+                                                                      : QString());
     return strings;
 }

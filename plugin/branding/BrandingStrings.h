@@ -7,7 +7,7 @@
 /// A deployment replaces the company name, the agent's name and the support contacts with an INI file "oem.strings"
 /// beside the host executable. A key that is missing or empty leaves its default.
 struct BrandingStrings {
-    /// Reads "oem.strings" in @p directory.
+    /// Reads "oem.strings" in @p directory. An empty directory leaves the defaults.
     explicit BrandingStrings(const QString& directory);
 
     QString agentServiceName = QStringLiteral("ZENTAgent");

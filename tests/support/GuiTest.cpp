@@ -1,4 +1,5 @@
 #include "GuiTest.h"
+#include "Surroundings.h"
 
 #include <QClipboard>
 #include <QDir>
@@ -42,16 +43,12 @@ size_t memoryInUse()
 #endif
 }
 
-void prepareTestEnvironment()
+void prepareTestEnvironment(const QByteArray& language)
 {
-    const auto setDefault = [](const char* name, const char* value) {
-        if (qEnvironmentVariableIsEmpty(name))
-            qputenv(name, value);
-    };
-    setDefault("QT_QPA_PLATFORM", "offscreen");
-    // The resolution to which the dialogs' fixed geometry belongs; the offscreen platform has another one.
-    setDefault("QT_FONT_DPI", "96");
-    qputenv("LANGUAGE", "en");
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("LANGUAGE", language);
+    prepareSurroundings();
 }
 
 int runTest(QObject& test, int argc, char** argv)

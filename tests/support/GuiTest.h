@@ -109,12 +109,12 @@ private:
 size_t memoryInUse();
 
 /// What every test program starts with; see GUI_TEST_MAIN.
-void prepareTestEnvironment();
+void prepareTestEnvironment(const QByteArray& language = "en");
 
 /// Runs the test functions, in an application that outlives its windows. The program's result.
 int runTest(QObject& test, int argc, char** argv);
 
-/// main() of a test program: no window system needed, English, one font resolution on every machine.
+/// main() of a test program: no window system needed, English, the same fonts on every machine.
 #define GUI_TEST_MAIN(TestClass)                                                                                       \
     int main(int argc, char** argv)                                                                                    \
     {                                                                                                                  \

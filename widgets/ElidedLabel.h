@@ -10,6 +10,12 @@ class ElidedLabel : public QLabel {
 public:
     using QLabel::QLabel;
 
+    /// Elides the text also where it would run into that of @p label, which stands to the right and overlaps this one.
+    void keepOffTextOf(const QLabel* label);
+
 protected:
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    const QLabel* neighbour = nullptr;
 };

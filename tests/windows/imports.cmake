@@ -1,0 +1,12 @@
+# Fails when a binary needs a DLL that a Windows machine with Qt and the compiler's two runtime DLLs does not have.
+execute_process(COMMAND "${OBJDUMP}" -p "${BINARY}" OUTPUT_VARIABLE headers)
+string(REGEX MATCHALL "DLL Name: [^\r\n]+" imports "${headers}")
+if(NOT imports)
+    message(FATAL_ERROR "${BINARY} has no import table")
+endif()
+foreach(import IN LISTS imports)
+    string(TOLOWER "${import}" import)
+    if(NOT import MATCHES "dll name: (qt5[a-z]+|libgcc_s_seh-1|libstdc\\+\\+-6|advapi32|kernel32|msvcrt|version)\\.dll$")
+        message(FATAL_ERROR "${BINARY} needs what nobody brings along: ${import}")
+    endif()
+endforeach()

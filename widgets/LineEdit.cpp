@@ -1,0 +1,104 @@
+#include "LineEdit.h"
+
+#include "LineEditAccessible.h"
+
+#include <QContextMenuEvent>
+#include <QMenu>
+#include <QScopedValueRollback>
+
+LineEdit::LineEdit(QWidget* parent) : QLineEdit(parent)
+{
+    installLineEditAccessible();
+    // textEdited() comes for every way to insert, but does not tell what was inserted. That starts where selection or
+    // cursor stood before, and ends at the cursor.
+    connect(this, &QLineEdit::selectionChanged, this, &LineEdit::noteInsertionStart);
+    connect(this, &QLineEdit::cursorPositionChanged, this, &LineEdit::noteInsertionStart);
+    connect(this, &QLineEdit::textEdited, this, &LineEdit::cleanInsertion);
+    connect(this, &QLineEdit::textChanged, this, &LineEdit::dropHalfPair);
+}
+
+bool LineEdit::isSecret() const
+{
+    return echoMode() != Normal;
+}
+
+bool LineEdit::isLineBreak(QChar character)
+{
+    const ushort code = character.unicode();
+    return (code >= 0x0A && code <= 0x0D) || code == 0x85 || code == 0x2028 || code == 0x2029;
+}
+
+QString LineEdit::cleaned(const QString& text) const
+{
+    QString line;
+    bool lineEnded = false;
+    for (const QChar character : text) {
+        if (isLineBreak(character)) {
+            lineEnded = !line.isEmpty();
+            continue;
+        }
+        if (lineEnded)
+            line += QLatin1Char(' ');
+        lineEnded = false;
+        line += character;
+    }
+    return line;
+}
+
+void LineEdit::contextMenuEvent(QContextMenuEvent* event)
+{
+    QMenu* menu = createStandardContextMenu();
+    if (!menu)
+        return;
+    // As the field's child the menu would take the field's own style sheet, and with it the hint picture.
+    menu->setParent(window(), menu->windowFlags());
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->popup(event->globalPos());
+}
+
+void LineEdit::noteInsertionStart()
+{
+    insertionStart = hasSelectedText() ? selectionStart() : cursorPosition();
+}
+
+void LineEdit::cleanInsertion()
+{
+    // An undo inserts nothing new. It is the only edit after which there is something to redo.
+    if (replacing || isRedoAvailable())
+        return;
+    const QString text = this->text();
+    const int end = cursorPosition();
+    const QString insertion = text.mid(insertionStart, qMax(0, end - insertionStart));
+    if (insertion.isEmpty())
+        return;
+    QString kept = cleaned(insertion);
+    // The length limit may have cut a surrogate pair.
+    if (text.size() >= maxLength() && insertion.back().isHighSurrogate() && kept.endsWith(insertion.back()))
+        kept.chop(1);
+    if (kept != insertion)
+        replaceInsertion(insertionStart, end, kept);
+    Q_EMIT inserted(insertion);
+}
+
+void LineEdit::replaceInsertion(int start, int end, const QString& kept)
+{
+    const QScopedValueRollback<bool> own(replacing, true);
+    const QString wanted = text().replace(start, end - start, kept);
+    if (echoMode() != Normal) {
+        // Undo would clear such a field.
+        setText(wanted);
+        setCursorPosition(start + kept.size());
+        return;
+    }
+    // Taking the insertion back first leaves one step in the history. It may reach further back than the insertion:
+    // what was typed just before it is part of the same step, and comes again together with it.
+    undo();
+    start = hasSelectedText() ? selectionStart() : cursorPosition();
+    insert(wanted.mid(start, wanted.size() - text().size() + selectedText().size()));
+}
+
+void LineEdit::dropHalfPair(const QString& text)
+{
+    if (!replacing && text.size() >= maxLength() && text.back().isHighSurrogate() && text == this->text())
+        setText(text.chopped(1));
+}

@@ -1,0 +1,80 @@
+#include "Scaling.h"
+
+#include <QAbstractButton>
+#include <QGridLayout>
+#include <QRegularExpression>
+#include <QVariant>
+#include <QWidget>
+
+namespace {
+int scaled(int length, float ratio)
+{
+    return length < QWIDGETSIZE_MAX ? static_cast<int>(static_cast<float>(length) * ratio) : QWIDGETSIZE_MAX;
+}
+
+QSize scaled(const QSize& size, float ratio)
+{
+    return {scaled(size.width(), ratio), scaled(size.height(), ratio)};
+}
+
+void scaleLayout(QLayout* layout, float ratio)
+{
+    layout->setContentsMargins(layout->contentsMargins() * ratio);
+    if (auto* grid = qobject_cast<QGridLayout*>(layout)) {
+        grid->setHorizontalSpacing(scaled(grid->horizontalSpacing(), ratio));
+        grid->setVerticalSpacing(scaled(grid->verticalSpacing(), ratio));
+    } else {
+        layout->setSpacing(scaled(layout->spacing(), ratio));
+    }
+}
+
+QString scaledStyleSheet(const QString& styleSheet, float ratio)
+{
+    static const QRegularExpression pixels(QStringLiteral("\\b(\\d+)px"));
+    QString result;
+    int end = 0;
+    for (auto matches = pixels.globalMatch(styleSheet); matches.hasNext();) {
+        const QRegularExpressionMatch match = matches.next();
+        const int unscaled = match.capturedRef(1).toInt();
+        // No font has 0 pixels, however small the ratio.
+        const int length = qMax(qMin(unscaled, 1), qRound(static_cast<float>(unscaled) * ratio));
+        result += styleSheet.midRef(end, match.capturedStart() - end) + QString::number(length) + QLatin1String("px");
+        end = match.capturedEnd();
+    }
+    result += styleSheet.midRef(end);
+    // An image is never drawn larger than its picture, a border image fills its place.
+    static const QRegularExpression picture(QStringLiteral(" image: url\\((.*)\\.png\\)"));
+    return result.replace(picture, QStringLiteral(" border-image: url(\"\\1@2x.png\")"));
+}
+
+void scaleStyleSheet(QWidget* widget, float fullRatio)
+{
+    const char unscaledProperty[] = "unscaledStyleSheet";
+    QString unscaled = widget->property(unscaledProperty).toString();
+    if (unscaled.isNull()) {
+        unscaled = widget->styleSheet();
+        if (!unscaled.contains(QLatin1String("px")))
+            return;
+        widget->setProperty(unscaledProperty, unscaled);
+    }
+    widget->setStyleSheet(scaledStyleSheet(unscaled, fullRatio));
+}
+} // namespace
+
+void scalePixels(QWidget* root, float ratio, float fullRatio)
+{
+    if (ratio == 1.0F)
+        return;
+    QList<QWidget*> widgets = root->findChildren<QWidget*>();
+    widgets.append(root);
+    for (QWidget* widget : qAsConst(widgets)) {
+        const QSize maximum = widget->maximumSize();
+        widget->setMinimumSize(scaled(widget->minimumSize(), ratio));
+        widget->setMaximumSize(scaled(maximum, ratio));
+        if (QLayout* layout = widget->layout())
+            scaleLayout(layout, ratio);
+        if (auto* button = qobject_cast<QAbstractButton*>(widget))
+            button->setIconSize(scaled(button->iconSize(), ratio));
+        scaleStyleSheet(widget, fullRatio);
+    }
+}
