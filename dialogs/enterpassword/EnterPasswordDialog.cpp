@@ -22,7 +22,7 @@ EnterPasswordDialog::EnterPasswordDialog(QWidget* parent)
 
     // Typing into a way's field chooses that way.
     for (const QLineEdit* edit :
-         {ui->editDomain, ui->editLogin, static_cast<QLineEdit*>(ui->editAdministratorPassword)})
+         std::initializer_list<QLineEdit*>{ui->editDomain, ui->editLogin, ui->editAdministratorPassword})
         connect(edit, &QLineEdit::textEdited, this, [this] { setCustomPasswordSelected(false); });
     connect(ui->editZentPassword, &QLineEdit::textEdited, this, [this] { setCustomPasswordSelected(true); });
     connect(ui->buttonOk, &QPushButton::clicked, this, &EnterPasswordDialog::onOkClicked);
