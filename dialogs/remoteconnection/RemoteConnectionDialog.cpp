@@ -32,6 +32,8 @@ RemoteConnectionDialog::RemoteConnectionDialog(QWidget* parent)
 {
     ui->setupUi(this);
     corner = new WindowCorner(this, ui->header);
+    // Screen readers take the tool tip for the description where there is none, and would say the name twice.
+    ui->closeButton->setAccessibleDescription(QStringLiteral(" "));
     RemoteConnectionDialog::setupWindow();
     // A remote person's arrival must not take the keyboard from what somebody is typing.
     setAttribute(Qt::WA_ShowWithoutActivating);
