@@ -21,8 +21,9 @@ EnterPasswordDialog::EnterPasswordDialog(QWidget* parent)
     setCustomPasswordSelected(false);
 
     // Typing into a way's field chooses that way.
-    for (const QLineEdit* edit :
-         std::initializer_list<QLineEdit*>{ui->editDomain, ui->editLogin, ui->editAdministratorPassword})
+    const std::initializer_list<QLineEdit*> accountFields = {ui->editDomain, ui->editLogin,
+                                                             ui->editAdministratorPassword};
+    for (const QLineEdit* edit : accountFields)
         connect(edit, &QLineEdit::textEdited, this, [this] { setCustomPasswordSelected(false); });
     connect(ui->editZentPassword, &QLineEdit::textEdited, this, [this] { setCustomPasswordSelected(true); });
     connect(ui->buttonOk, &QPushButton::clicked, this, &EnterPasswordDialog::onOkClicked);
