@@ -665,8 +665,12 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Reason for the restart</source>
-        <extracomment>Name of a text for screen readers</extracomment>
         <translation>Reden voor het herstarten</translation>
+    </message>
+    <message>
+        <source>Reason for the shutdown</source>
+        <extracomment>Name of a text for screen readers</extracomment>
+        <translation>Reden voor het afsluiten</translation>
     </message>
 </context>
 <context>
@@ -817,6 +821,16 @@ Name of the large picture for screen readers</extracomment>
         <comment>in full</comment>
         <extracomment>Name of the button for screen readers, never shortened</extracomment>
         <translation>Sessie beëindigen</translation>
+    </message>
+    <message>
+        <source>Session started: %1</source>
+        <extracomment>Spoken by screen readers; %1 is a person&apos;s name and the kind of session</extracomment>
+        <translation>Sessie gestart: %1</translation>
+    </message>
+    <message>
+        <source>Session ended: %1</source>
+        <extracomment>Spoken by screen readers; %1 is a person&apos;s name and the kind of session</extracomment>
+        <translation>Sessie beëindigd: %1</translation>
     </message>
 </context>
 <context>

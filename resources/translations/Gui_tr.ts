@@ -663,8 +663,12 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Reason for the restart</source>
-        <extracomment>Name of a text for screen readers</extracomment>
         <translation>Yeniden başlatma nedeni</translation>
+    </message>
+    <message>
+        <source>Reason for the shutdown</source>
+        <extracomment>Name of a text for screen readers</extracomment>
+        <translation>Kapatma nedeni</translation>
     </message>
 </context>
 <context>
@@ -815,6 +819,16 @@ Name of the large picture for screen readers</extracomment>
         <comment>in full</comment>
         <extracomment>Name of the button for screen readers, never shortened</extracomment>
         <translation>Oturumu bitir</translation>
+    </message>
+    <message>
+        <source>Session started: %1</source>
+        <extracomment>Spoken by screen readers; %1 is a person&apos;s name and the kind of session</extracomment>
+        <translation>Oturum başladı: %1</translation>
+    </message>
+    <message>
+        <source>Session ended: %1</source>
+        <extracomment>Spoken by screen readers; %1 is a person&apos;s name and the kind of session</extracomment>
+        <translation>Oturum sona erdi: %1</translation>
     </message>
 </context>
 <context>
