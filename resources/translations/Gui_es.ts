@@ -825,12 +825,12 @@ Name of the large picture for screen readers</extracomment>
     <message>
         <source>Session started: %1</source>
         <extracomment>Spoken by screen readers; %1 is a person&apos;s name and the kind of session</extracomment>
-        <translation>Sesión iniciada: %1</translation>
+        <translation>Ha comenzado la sesión: %1</translation>
     </message>
     <message>
         <source>Session ended: %1</source>
         <extracomment>Spoken by screen readers; %1 is a person&apos;s name and the kind of session</extracomment>
-        <translation>Sesión finalizada: %1</translation>
+        <translation>Ha finalizado la sesión: %1</translation>
     </message>
 </context>
 <context>

@@ -668,7 +668,7 @@ Name of the large picture for screen readers</extracomment>
     <message>
         <source>Reason for the shutdown</source>
         <extracomment>Name of a text for screen readers</extracomment>
-        <translation>Kapatma nedeni</translation>
+        <translation>Bilgisayarı kapatma nedeni</translation>
     </message>
 </context>
 <context>
