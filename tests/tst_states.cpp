@@ -176,6 +176,8 @@ QString toldOf(QAccessibleInterface* part)
     QString told = QString::fromLatin1(qAccessibleRoleString(part->role()));
     for (const QAccessible::Text type : {QAccessible::Name, QAccessible::Value, QAccessible::Description})
         told += QStringLiteral(" \"%1\"").arg(part->text(type).simplified());
+    if (QAccessibleValueInterface* value = part->valueInterface())
+        told += QLatin1Char(' ') + value->currentValue().toString();
     const QAccessible::State state = part->state();
     const auto tell = [&told](bool holds, const char* word) { told += QLatin1String(holds ? word : ""); };
     tell(state.disabled, " disabled");
