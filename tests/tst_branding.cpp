@@ -1,3 +1,4 @@
+#include "BrandingReport.h"
 #include "BrandingStrings.h"
 #include "GuiTest.h"
 
@@ -36,20 +37,32 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("content");
         QTest::addColumn<QString>("companyName");
         QTest::addColumn<QString>("supportPhone");
-        const auto row = [](const char* name, const QByteArray& content, const char* company, const char* phone) {
-            QTest::newRow(name) << content << QString::fromUtf8(company) << QString::fromUtf8(phone);
+        QTest::addColumn<QString>("remark");
+        const auto row = [](const char* name, const QByteArray& content, const char* company, const char* phone,
+                            const char* remark = "") {
+            QTest::newRow(name) << content << QString::fromUtf8(company) << QString::fromUtf8(phone)
+                                << QString::fromUtf8(remark);
         };
-        row("one key", "companyName=Acme\n", "Acme", "");
         row("general section", "[General]\r\nsupportPhone=+49 30 1234\r\n", "Ostrel", "+49 30 1234");
-        row("other section", "[Branding]\ncompanyName=Acme\nsupportPhone=1\n", "Ostrel", "");
-        row("empty value and comment", "companyName=\n; companyName=Acme\nsupportPhone=1\n", "Ostrel", "1");
+        row("other section", "[Branding]\ncompanyName=Acme\nsupportPhone=1\n", "Ostrel", "",
+            "companyName is ignored, because it is in the section [Branding]");
+        row("empty value and comment", "companyName=\n; companyName=Acme\nsupportPhone=1\n", "Ostrel", "1",
+            "companyName is empty");
         row("blanks and comma in quotes", "companyName=\" Acme, Inc. \"\n", " Acme, Inc. ", "");
-        row("comma without quotes", "companyName=Acme, Inc.\nsupportPhone=1\n", "Ostrel", "1");
+        row("comma without quotes", "companyName=Acme, Inc.\nsupportPhone=1\n", "Ostrel", "1",
+            "a comma outside quotes");
+        row("semicolon without quotes", "supportPhone=1; 2\n", "Ostrel", "1", "line 1: cut at the semicolon");
+        row("quote left open", "supportPhone=\"1\ncompanyName=Acme\n", "Ostrel", "1\ncompanyName=Acme\n",
+            "line 1: the quote is not closed");
+        row("mistyped key", "\ncompnyName=Acme\nsupportPhone 1\n", "Ostrel", "",
+            "compnyName is ignored, because there is no such key");
         row("utf-8", "companyName=Ümläut GmbH\nsupportPhone=守護\n", "Ümläut GmbH", "守護");
         row("utf-8 with mark", QByteArray("\xEF\xBB\xBF") + "companyName=Ümläut GmbH\n", "Ümläut GmbH", "");
-        row("latin-1", "companyName=\xDCml\xE4ut GmbH\n", "Ümläut GmbH", "");
-        row("noise", QByteArray("\0\1\2[\xFF\xFE=;\n]\"\\x", 13), "Ostrel", "");
-        row("an object", "companyName=@Variant(\\0\\0\\0\\b\\xff\\xff\\xff\\xfe)\nsupportPhone=1\n", "Ostrel", "");
+        row("latin-1", "companyName=\xDCml\xE4ut GmbH\n", "Ümläut GmbH", "", "not valid UTF-8");
+        row("utf-16", QByteArray("\xFF\xFE=\0A\0\n\0", 8), "Ostrel", "", "UTF-16");
+        row("noise", QByteArray("\0\1\2[\xFF\xFE=;\n]\"\\x", 13), "Ostrel", "", "not valid UTF-8");
+        row("an object", "companyName=@Variant(\\0\\0\\0\\b\\xff\\xff\\xff\\xfe)\nsupportPhone=1\n", "Ostrel", "1",
+            "companyName is ignored, because it is no text");
         const QByteArray megabyte(1 << 20, 'x');
         row("a megabyte long", "companyName=" + megabyte + "\n", megabyte.constData(), "");
     }
@@ -68,6 +81,16 @@ private Q_SLOTS:
         QCOMPARE(strings.productFullName, companyName + QStringLiteral(" Tavik"));
         QCOMPARE(strings.rmmAgentName, QStringLiteral("Ostrel Remote Monitoring and Management Agent"));
         QCOMPARE(messages().last(), QStringLiteral("OEM strings loaded"));
+
+        // The reference host reads the file by itself and must come to the same.
+        const BrandingReport report(directory.filePath(QStringLiteral("oem.strings")));
+        QCOMPARE(report.values.first().second.isNull() ? QStringLiteral("Ostrel") : report.values.first().second,
+                 strings.companyName);
+        QCOMPARE(report.values.last().second, strings.supportPhone);
+        QFETCH(QString, remark);
+        QCOMPARE(report.remarks.isEmpty(), remark.isEmpty());
+        QVERIFY2(report.remarks.join(QLatin1Char('\n')).contains(remark),
+                 qPrintable(report.remarks.join(QLatin1Char('\n'))));
     }
 };
 

@@ -40,7 +40,6 @@ private Q_SLOTS:
 
         add("AcceptMessageDialog", "slClose() btnCancel btnClose", "evClose");
         add("AcceptMessageDialog", "Return reject() close btnMessageInnerButton", "evOk");
-        add("AcceptMessageDialog", "Escape", "");
 
         add("ProgressDialog", "btnMessageInnerButton- Space Return Enter Escape A accept()", "");
         add("ProgressDialog", "btnCancel btnClose @btnCancel Space", "evCancel");
@@ -54,7 +53,6 @@ private Q_SLOTS:
         add("AboutDialog", "Return Enter Space accept() reject() close btnOk btnClose", "evClose");
         add("AboutDialog", "btnUpdateNow", "evUpdateNow");
         add("AboutDialog", "@lblWebSiteLink Return Enter", "evLinkClicked");
-        add("AboutDialog", "Escape", "");
 
         add("AuthorizationDialog", "reject() slClose() close btnCancel btnClose", "evClose");
         add("AuthorizationDialog", "Return Enter accept() slLogin() btnLogin Escape A btnLogin-", "");

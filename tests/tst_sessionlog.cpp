@@ -78,11 +78,7 @@ private Q_SLOTS:
                                        {"service", "dir-upload", "cancel", "Upload cancelled", "#C1C36D"},
                                        {"event", "dir-download", "error", "", "#6BC39A"},
                                        {"Process", "file-erase", "reply", "File deleted", "#89C1FE"},
-                                       {"", "dir-rename", "abort", "", "#89C1FE"},
-                                       {"", "proc-kill", "reply", "Process ended", "#89C1FE"},
-                                       {"", "session-resume", "reply", "Session resumed", "#89C1FE"},
-                                       {"", "file-upload", "Reply", "file-upload", "#89C1FE"},
-                                       {"", "File-Upload", "reply", "File-Upload", "#89C1FE"}};
+                                       {"", "file-upload", "Reply", "file-upload", "#89C1FE"}};
         for (const auto& row : rows) {
             session->addLogEvent(noon, QLatin1String(row[0]), QLatin1String(row[1]), QStringLiteral("x"),
                                  QLatin1String(row[2]));

@@ -170,12 +170,14 @@ QVector<QAccessibleInterface*> partsOf(QAccessibleInterface* root)
     return parts;
 }
 
-/// What is told of @p part, without what changes with time.
+/// What is told of @p part, without the numbers that depend on time and on what was shown before.
 QString toldOf(QAccessibleInterface* part)
 {
     QString told = QString::fromLatin1(qAccessibleRoleString(part->role()));
     for (const QAccessible::Text type : {QAccessible::Name, QAccessible::Value, QAccessible::Description})
         told += QStringLiteral(" \"%1\"").arg(part->text(type).simplified());
+    if (QAccessibleValueInterface* value = part->valueInterface())
+        told += QLatin1Char(' ') + value->currentValue().toString();
     const QAccessible::State state = part->state();
     const auto tell = [&told](bool holds, const char* word) { told += QLatin1String(holds ? word : ""); };
     tell(state.disabled, " disabled");
@@ -184,7 +186,7 @@ QString toldOf(QAccessibleInterface* part)
     tell(state.passwordEdit, " password");
     tell(state.defaultButton, " default");
     tell(state.focused, " focused");
-    return told.replace(QRegularExpression(QStringLiteral("\\d+ seconds")), QStringLiteral("N seconds"));
+    return told.replace(QRegularExpression(QStringLiteral("#\\d+|\\d+(?= seconds)")), QStringLiteral("N"));
 }
 
 /// Whether more of the text would be painted if its widget were larger.
