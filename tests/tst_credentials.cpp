@@ -141,28 +141,24 @@ private Q_SLOTS:
     {
         auto* dialog = get<IEnterPasswordDialog>();
         QVERIFY(!dialog->getAttachment());
-        const auto attach = [dialog] {
+        std::unique_ptr<IAttachment> handed;
+        std::weak_ptr<int> last;
+        for (int round = 0; round < 3; ++round) {
             auto note = std::make_unique<Note>();
-            const std::weak_ptr<int> life = note->life;
-            std::unique_ptr<IAttachment> attachment = std::move(note);
-            dialog->setAttachment(attachment);
-            return attachment ? std::weak_ptr<int>() : life;
-        };
-        const std::weak_ptr<int> first = attach();
-        QVERIFY(!first.expired());
-        // Handing the dialog its own object changes nothing.
-        std::unique_ptr<IAttachment> own(dialog->getAttachment());
-        dialog->setAttachment(own);
-        QVERIFY(!own);
-        QVERIFY(!first.expired());
-        QCOMPARE(static_cast<Note*>(dialog->getAttachment())->life.get(), first.lock().get());
-
-        const std::weak_ptr<int> second = attach();
-        QVERIFY(first.expired() && !second.expired());
-        dialog->setAttachment(own);
-        QVERIFY(second.expired() && !dialog->getAttachment());
-
-        const std::weak_ptr<int> last = attach();
+            IAttachment* const given = note.get();
+            const std::weak_ptr<int> previous = std::exchange(last, note->life);
+            handed = std::move(note);
+            dialog->setAttachment(handed);
+            QVERIFY(!handed && previous.expired() && dialog->getAttachment() == given);
+            // Handing the dialog its own object changes nothing.
+            handed.reset(given);
+            dialog->setAttachment(handed);
+            QVERIFY(!handed && !last.expired() && dialog->getAttachment() == given);
+            if (round == 1) {
+                dialog->setAttachment(handed);
+                QVERIFY(last.expired() && !dialog->getAttachment());
+            }
+        }
         gui().deleteEnterPasswordDialogInstance();
         QVERIFY(!last.expired());
         settle();

@@ -54,27 +54,28 @@ struct Panel {
     Clock clock;
 };
 
+QList<QPushButton*> shownButtons(const QWidget* part)
+{
+    auto buttons = part ? part->findChildren<QPushButton*>() : QList<QPushButton*>();
+    const auto isHidden = [part](const QPushButton* button) { return !button->isVisibleTo(part); };
+    buttons.erase(std::remove_if(buttons.begin(), buttons.end(), isHidden), buttons.end());
+    return buttons;
+}
+
 /// The texts of the buttons that a part of the window shows, those that are disabled in brackets.
-QString shownButtons(const QWidget* part)
+QString shownTexts(const QWidget* part)
 {
     QString texts;
-    for (const QPushButton* button : part->findChildren<QPushButton*>()) {
-        if (button->isVisibleTo(part))
-            texts += button->isEnabled() ? button->text() : QStringLiteral("(%1)").arg(button->text());
-    }
+    for (const QPushButton* button : shownButtons(part))
+        texts += button->isEnabled() ? button->text() : QStringLiteral("(%1)").arg(button->text());
     return texts;
 }
 
 /// Clicks what a panel or the tools area lets a person click.
 void clickIn(const QWidget* part)
 {
-    const auto buttons = part ? part->findChildren<QPushButton*>() : QList<QPushButton*>();
-    for (QPushButton* button : buttons) {
-        if (button->isVisible()) {
-            QTest::mouseClick(button, Qt::LeftButton);
-            return;
-        }
-    }
+    for (QPushButton* button : shownButtons(part).mid(0, part && part->isVisible() ? 1 : 0))
+        QTest::mouseClick(button, Qt::LeftButton);
 }
 } // namespace
 
@@ -98,17 +99,10 @@ class SessionWindowTest : public GuiTest {
     }
 
 private Q_SLOTS:
-    void randomWalk_data()
-    {
-        QTest::addColumn<uint>("seed");
-        for (uint seed = 1; seed <= 8; ++seed)
-            QTest::addRow("%u", seed) << seed;
-    }
     /// What a host and a person do in any order, and beside each action what the window should show and tell then.
     void randomWalk()
     {
-        QFETCH(uint, seed);
-        QRandomGenerator random(seed);
+        QRandomGenerator random(1);
         auto* session = get<Session>();
         QMap<QString, Panel> panels;
         Clock toolsClock;
@@ -202,7 +196,7 @@ private Q_SLOTS:
              }},
         };
         QString history;
-        for (int step = 0; step < 150; ++step) {
+        for (int step = 0; step < 1500; ++step) {
             id = QStringList{QString(), a, b, QStringLiteral("c")}.at(random.bounded(4));
             flag = random.bounded(2) == 1;
             hours = QVector<int>{-1, 1, 3, 27}.at(random.bounded(4));
@@ -225,7 +219,7 @@ private Q_SLOTS:
                 const QString stripId = strip->property("P_SID").toString();
                 const Panel panel = panels.value(stripId);
                 const QString clock = strip->findChild<QLabel*>(QStringLiteral("timeElapsed"))->text();
-                compare(stripId + shownButtons(strip), stripId + panel.button);
+                compare(stripId + shownTexts(strip), stripId + panel.button);
                 compare(clock.left(panel.clock.text.size()), panel.clock.text);
             }
             compare(stripsOf(session).size(), panels.size());
@@ -236,7 +230,7 @@ private Q_SLOTS:
             if (toolsShown) {
                 const auto& type = child<QLabel>(session, "toolSessionTypeLabel");
                 compare(type.text(), QLatin1String(toolsType == 1 ? "File Transfer Session" : "Remote Tool Session"));
-                compare(shownButtons(&tools), isDisabled ? QStringLiteral("(%1)").arg(toolsButton) : toolsButton);
+                compare(shownTexts(&tools), isDisabled ? QStringLiteral("(%1)").arg(toolsButton) : toolsButton);
             }
             compare(child<QLabel>(session, "timeElapsedFileTransfer").text().left(toolsClock.text.size()),
                     toolsClock.text);
@@ -318,11 +312,11 @@ private Q_SLOTS:
         QCOMPARE(top.width(), static_cast<int>(570 * ratio));
         for (const QWidget* strip : stripsOf(session))
             QCOMPARE(strip->size(), QSize(top.width(), static_cast<int>(70 * ratio) + 1));
-        for (const char* name : {"username", "usernameFileTransfer"}) {
-            const auto& user = child<QLabel>(session, name);
-            QCOMPARE(user.toolTip(), jane);
-            QCOMPARE(user.text(), user.fontMetrics().elidedText(jane, Qt::ElideRight, user.maximumWidth()));
-            QTRY_VERIFY(user.width() >= user.sizeHint().width());
+        for (const auto* user : top.findChildren<QLabel*>(QRegularExpression(QStringLiteral("^username")))) {
+            QTRY_VERIFY(!user->isVisible() || user->width() >= user->sizeHint().width());
+            QVERIFY(!user->isVisible() || user->toolTip() == jane);
+            QVERIFY(!user->isVisible()
+                    || user->text() == user->fontMetrics().elidedText(jane, Qt::ElideRight, user->maximumWidth()));
         }
         // Each button says whose session it ends.
         for (const char* button : {"btnEndRemoteControlSession", "btnEndRemoteToolsSession"})
@@ -354,12 +348,15 @@ private Q_SLOTS:
         session->endRemoteControlSession(b);
         settle();
         QCOMPARE(corner(session), moved);
-        top.move(20000, 20000);
-        top.showMinimized();
-        session->addRemoteControlSession(b, jane, 0, true);
-        settle();
-        QVERIFY(!top.isMinimized());
-        QCOMPARE(corner(session), screenCorner());
+        for (const bool minimized : {false, true}) {
+            top.move(20000, 20000);
+            if (minimized)
+                top.showMinimized();
+            session->addRemoteControlSession(QString::number(int(minimized)), jane, 0, true);
+            settle();
+            QVERIFY(!top.isMinimized());
+            QCOMPARE(corner(session), screenCorner());
+        }
     }
 
     void everyEventAnsweredByEnding()
