@@ -46,7 +46,8 @@ bool takeOpened()
 
 /// Texts that deceive, and how they appear where a remote person may have written them: in one line, in several.
 const QMap<QString, QStringList> deceptions{
-    {u"abc\u202Egpj.exe\u202C \u2066x\u2069 \u200Fy"_s, {u"abc\uFFFDgpj.exe\uFFFD \uFFFDx\uFFFD \uFFFDy"_s}},
+    {u"abc\u202Egpj.exe\u202A \u2066x\u2069 \u200Ey\u200F"_s,
+     {u"abc\uFFFDgpj.exe\uFFFD \uFFFDx\uFFFD \uFFFDy\uFFFD"_s}},
     {u"\x01\x08\x1b[31m\x7f\x9B"_s, {u"\uFFFD\uFFFD\uFFFD[31m\uFFFD\uFFFD"_s}},
     {u"before\0<b>after</b>"_s, {u"before\uFFFD<b>after</b>"_s}},
     {u"one\ntwo\r\nthree\rfour\tfive\u2028\u2029"_s,
