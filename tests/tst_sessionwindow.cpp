@@ -38,14 +38,14 @@ QPoint screenCorner()
 struct Clock {
     int hours = 0;
     bool running = false;
-    QString text = QStringLiteral("00:00");
+    QString text = QStringLiteral("00:");
 
     void start(int newHours)
     {
         running = true;
         hours = newHours;
         if (hours > 0)
-            text = QString::fromLatin1(hours < 24 ? "%1:00" : "1.%1:00").arg(hours % 24, 2, 10, QLatin1Char('0'));
+            text = QString::fromLatin1(hours < 24 ? "%1:" : "1.%1:").arg(hours % 24, 2, 10, QLatin1Char('0'));
     }
 };
 
@@ -54,6 +54,7 @@ struct Panel {
     Clock clock;
 };
 
+/// The buttons that a part of the window shows when it is shown itself.
 QList<QPushButton*> shownButtons(const QWidget* part)
 {
     auto buttons = part ? part->findChildren<QPushButton*>() : QList<QPushButton*>();
@@ -245,7 +246,8 @@ private Q_SLOTS:
             for (const DialogEvent& event : qAsConst(events))
                 compare(dialogFamily(event.dialog).events.value(event.event) + QLatin1Char(' ') + event.sessionId,
                         expected.isEmpty() ? QString() : expected.takeFirst());
-            QVERIFY2(found == wanted && expected.isEmpty(), qPrintable(history + found + wanted));
+            QVERIFY2(found == wanted && expected.isEmpty(),
+                     qPrintable(found + QLatin1Char('\n') + wanted + QLatin1Char('\n') + history.right(500)));
             events.clear();
         }
     }
