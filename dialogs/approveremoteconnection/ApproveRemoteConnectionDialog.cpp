@@ -1,6 +1,7 @@
 #include "ApproveRemoteConnectionDialog.h"
 
 #include "DisplayText.h"
+#include "Scaling.h"
 #include "ui_ApproveRemoteConnectionDialog.h"
 
 #include <QAccessible>
@@ -211,7 +212,7 @@ void ApproveRemoteConnectionDialog::setupWindow()
 void ApproveRemoteConnectionDialog::scaleBy(float ratio)
 {
     const QPoint topLeft = topLeftAtRatio(ratio);
-    scaleSizeLimits(this, ratio);
+    scalePixels(this, ratio, fullRatio());
     move(topLeft);
 }
 

@@ -3,6 +3,7 @@
 #include "BrandingStrings.h"
 #include "DisplayText.h"
 #include "ElidedLabel.h"
+#include "Scaling.h"
 
 #include <QAbstractButton>
 #include <QCloseEvent>
@@ -82,11 +83,12 @@ void BaseDialog::setRatio(float ratio)
 {
     if (!std::isfinite(ratio) || ratio <= 0.0F)
         return;
-    const int longest = qMax(width(), height());
-    if (longest > 0)
-        ratio = qMin(ratio, static_cast<float>(longestSide) / static_cast<float>(longest));
-    if (ratio != 1.0F)
-        scaleBy(ratio);
+    const int longest = qMax(1, qMax(width(), height()));
+    ratio = qMin(ratio, static_cast<float>(longestSide) / static_cast<float>(longest));
+    if (ratio == 1.0F)
+        return;
+    scaledSoFar = qMin(scaledSoFar * ratio, static_cast<float>(longestSide));
+    scaleBy(ratio);
 }
 
 void BaseDialog::mousePressEvent(QMouseEvent* event)
@@ -126,8 +128,10 @@ void BaseDialog::closeEvent(QCloseEvent* event)
 void BaseDialog::showEvent(QShowEvent* event)
 {
     // Spontaneous events come from the window system, which restores what the person has minimised.
-    if (!event->spontaneous())
+    if (!event->spontaneous()) {
+        moveIntoReach();
         startAfresh();
+    }
     QDialog::showEvent(event);
 }
 
@@ -145,12 +149,17 @@ void BaseDialog::moveToScreenCenter()
     move(frame.topLeft());
 }
 
-void BaseDialog::setCaption(QLabel* prefixLabel, QLabel* titleLabel, const QString& title)
+void BaseDialog::showCaptionPrefix(QLabel* prefixLabel)
 {
     prefixLabel->setTextFormat(Qt::PlainText);
     prefixLabel->setText(captionPrefix);
     if (prefixLabel->sizeHint().width() > prefixLabel->width())
         prefixLabel->setToolTip(literalToolTip(captionPrefix.trimmed()));
+}
+
+void BaseDialog::setCaption(QLabel* prefixLabel, QLabel* titleLabel, const QString& title)
+{
+    showCaptionPrefix(prefixLabel);
     setTitle(title);
     if (!titleLabel)
         return;
@@ -168,19 +177,43 @@ void BaseDialog::setTitle(const QString& title)
 
 void BaseDialog::scaleBy(float ratio)
 {
+    // New size limits and style sheets may move and resize widgets, so all places are computed before.
+    const QPoint topLeft = topLeftAtRatio(ratio);
+    const QSize newSize = scaled(size(), ratio);
+    QVector<QPair<QWidget*, QRect>> places;
     const QList<QWidget*> children = findChildren<QWidget*>();
-    move(topLeftAtRatio(ratio));
-    resize(scaled(size(), ratio));
-    for (QWidget* child : children) {
-        child->resize(scaled(child->size(), ratio));
-        child->move(scaled(child->pos(), ratio));
+    for (QWidget* child : children)
+        places.append(qMakePair(child, QRect(scaled(child->pos(), ratio), scaled(child->size(), ratio))));
+
+    scalePixels(this, ratio, fullRatio());
+    move(topLeft);
+    resize(newSize);
+    for (const auto& place : qAsConst(places)) {
+        place.first->resize(place.second.size());
+        place.first->move(place.second.topLeft());
     }
+}
+
+float BaseDialog::fullRatio() const
+{
+    return scaledSoFar;
 }
 
 QPoint BaseDialog::topLeftAtRatio(float ratio) const
 {
     const float growth = ratio - 1.0F;
     return {truncated(x() - width() * growth * 0.5F), truncated(y() - height() * growth * 0.5F)};
+}
+
+void BaseDialog::moveIntoReach()
+{
+    const QRect frame = frameGeometry();
+    const QScreen* screen = QGuiApplication::screenAt(frame.center());
+    const QRect area = (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry();
+    const int left = frame.width() > area.width() ? qMax(frame.x(), area.x()) : frame.x();
+    const int top = frame.height() > area.height() ? qMax(frame.y(), area.y()) : frame.y();
+    if (QPoint(left, top) != frame.topLeft())
+        move(left, top);
 }
 
 QWidget* BaseDialog::startWidget()
@@ -214,19 +247,4 @@ void BaseDialog::startAfresh()
     start->setFocus(Qt::OtherFocusReason);
     if (auto* field = qobject_cast<QLineEdit*>(start))
         field->selectAll();
-}
-
-void BaseDialog::scaleSizeLimits(QWidget* root, float ratio)
-{
-    QList<QWidget*> widgets = root->findChildren<QWidget*>();
-    widgets.append(root);
-    for (QWidget* widget : qAsConst(widgets)) {
-        const QSize maximum = widget->maximumSize();
-        widget->setMinimumSize(scaled(widget->minimumSize(), ratio));
-        widget->setMaximumSize(maximum.width() < QWIDGETSIZE_MAX ? truncated(maximum.width() * ratio) : QWIDGETSIZE_MAX,
-                               maximum.height() < QWIDGETSIZE_MAX ? truncated(maximum.height() * ratio)
-                                                                  : QWIDGETSIZE_MAX);
-        if (QLayout* layout = widget->layout())
-            layout->setContentsMargins(layout->contentsMargins() * ratio);
-    }
 }
