@@ -136,6 +136,8 @@ void WindowSystemTest::modalBlocksTheHost()
     QCOMPARE(awaitEvents(), QStringList{QStringLiteral("evOk")});
     QCOMPARE(host.clicks, 1);
     dialog->hide();
+    // The window manager holds clicks back while it gives the focus to the window beneath.
+    QVERIFY(QTest::qWaitForWindowActive(&host));
     clickOn(host.button);
     QTRY_COMPARE(host.clicks, 2);
 }
