@@ -9,7 +9,8 @@
 namespace {
 int scaled(int length, float ratio)
 {
-    return length < QWIDGETSIZE_MAX ? static_cast<int>(static_cast<float>(length) * ratio) : QWIDGETSIZE_MAX;
+    const float limit = QWIDGETSIZE_MAX;
+    return length < QWIDGETSIZE_MAX ? static_cast<int>(qMin(static_cast<float>(length) * ratio, limit)) : length;
 }
 
 QSize scaled(const QSize& size, float ratio)
@@ -77,7 +78,7 @@ void scaleStyleSheet(QWidget* widget, float fullRatio)
             return;
         widget->setProperty(unscaledProperty, unscaled);
     }
-    replaceStyleSheet(widget, scaledStyleSheet(unscaled, fullRatio));
+    replaceStyleSheet(widget, fullRatio == 1.0F ? unscaled : scaledStyleSheet(unscaled, fullRatio));
 }
 } // namespace
 

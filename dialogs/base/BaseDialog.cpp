@@ -91,6 +91,13 @@ void BaseDialog::setRatio(float ratio)
     scaleBy(ratio);
 }
 
+void BaseDialog::setVisible(bool visible)
+{
+    if (visible && !isVisible())
+        moveIntoReach();
+    QDialog::setVisible(visible);
+}
+
 void BaseDialog::mousePressEvent(QMouseEvent* event)
 {
     dragPosition = event->pos();
@@ -128,10 +135,8 @@ void BaseDialog::closeEvent(QCloseEvent* event)
 void BaseDialog::showEvent(QShowEvent* event)
 {
     // Spontaneous events come from the window system, which restores what the person has minimised.
-    if (!event->spontaneous()) {
-        moveIntoReach();
+    if (!event->spontaneous())
         startAfresh();
-    }
     QDialog::showEvent(event);
 }
 
@@ -210,10 +215,8 @@ void BaseDialog::moveIntoReach()
     const QRect frame = frameGeometry();
     const QScreen* screen = QGuiApplication::screenAt(frame.center());
     const QRect area = (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry();
-    const int left = frame.width() > area.width() ? qMax(frame.x(), area.x()) : frame.x();
-    const int top = frame.height() > area.height() ? qMax(frame.y(), area.y()) : frame.y();
-    if (QPoint(left, top) != frame.topLeft())
-        move(left, top);
+    if (frame.width() > area.width() || frame.height() > area.height())
+        move(qMax(frame.x(), area.x()), qMax(frame.y(), area.y()));
 }
 
 QWidget* BaseDialog::startWidget()

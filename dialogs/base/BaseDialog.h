@@ -32,6 +32,7 @@ public:
     void done(int result) override;
     int exec() override;
     void setRatio(float ratio) override;
+    void setVisible(bool visible) override;
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
@@ -59,7 +60,7 @@ protected:
     float fullRatio() const;
     /// Where the dialog's top-left corner goes when it is scaled about its centre.
     QPoint topLeftAtRatio(float ratio) const;
-    /// Called whenever the host shows the dialog. Brings the top and left edges of a dialog that is larger than the
+    /// Called before the host shows the dialog. Brings the top and left edges of a dialog that is larger than the
     /// screen onto it: the caption is there then, and by dragging all the rest can be reached.
     virtual void moveIntoReach();
     /// The widget that has the focus whenever the host shows the dialog. In a line edit all text is selected then. By
