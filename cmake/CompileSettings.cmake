@@ -18,14 +18,19 @@ if(MSVC)
         /W4 /permissive- /utf-8 $<$<BOOL:${GUI_WERROR}>:/WX>
         # A dialog inherits show(), hide() and others from its base by dominance, on purpose.
         /wd4250
-        /sdl /guard:cf)
+        /sdl /guard:cf
+        # What is shipped has symbols too, in an archive of their own.
+        $<$<CONFIG:Release>:/Zi>)
     target_link_options(compile_settings INTERFACE
+        $<$<CONFIG:Release>:/DEBUG> $<$<CONFIG:Release>:/OPT:REF> $<$<CONFIG:Release>:/OPT:ICF>
         /guard:cf /DYNAMICBASE /NXCOMPAT $<$<EQUAL:${CMAKE_SIZEOF_VOID_P},8>:/HIGHENTROPYVA>)
 else()
     target_compile_options(compile_settings INTERFACE
         -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wundef
         $<$<BOOL:${GUI_WERROR}>:-Werror>
-        -fstack-protector-strong)
+        -fstack-protector-strong
+        # What is shipped has symbols too, in an archive of their own.
+        $<$<CONFIG:Release>:-g>)
     # Needs an optimising build.
     target_compile_definitions(compile_settings INTERFACE $<$<NOT:$<CONFIG:Debug>>:_FORTIFY_SOURCE=2>)
     if(WIN32)

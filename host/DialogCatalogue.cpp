@@ -70,7 +70,7 @@ T fromJson(const QJsonValue& value)
                 return pointInTime(value.toString());
         }
         const double number = value.toDouble();
-        // The upper limit of 64 bits is no double; the next one above it is.
+        // The largest 64-bit integer has no exact double; the number above it has.
         require(value.isDouble() && number == std::floor(number)
                     && number >= static_cast<double>(std::numeric_limits<T>::min())
                     && number < static_cast<double>(std::numeric_limits<T>::max()) + 1.0,

@@ -226,7 +226,7 @@ void ScriptPlayer::get(const QJsonObject& command)
     }
     if (!family.attach(gui, &receiver, family.receiverSlot.constData(), id))
         throw ScriptError(QStringLiteral("%1 could not be attached").arg(family.name));
-    // A deleted dialog may have stood at the same address; its events are not this one's.
+    // A deleted dialog may have had the same address; forget the events that it sent.
     const auto isStale = [dialog](const DialogEvent& event) { return event.sender == dialog; };
     unconsumedEvents.erase(std::remove_if(unconsumedEvents.begin(), unconsumedEvents.end(), isStale),
                            unconsumedEvents.end());
@@ -266,7 +266,7 @@ void ScriptPlayer::log(const QJsonObject& command)
 
 void ScriptPlayer::expect(const QJsonObject& command)
 {
-    // The person may well have typed and chosen something else.
+    // A person may have typed or chosen something else than the script expects.
     if (mode == Mode::Attended)
         return;
     const Instance& target = instance(command);
@@ -435,7 +435,7 @@ void ScriptPlayer::picture(const QJsonObject& command)
     if (file.isEmpty() || std::any_of(file.cbegin(), file.cend(), leavesDirectory))
         throw ScriptError(QStringLiteral("\"file\" must be a name without a directory"));
     const QString path = pictureDirectory.filePath(file + QStringLiteral(".png"));
-    // Zero-delay timers and polishing have their turn before the shutter.
+    // Process pending events before grabbing: zero-delay timers and polishing change the look.
     QCoreApplication::processEvents();
     if (!target.window)
         throw ScriptError(QStringLiteral("%1 was deleted").arg(target.family->name));
@@ -470,7 +470,7 @@ bool ScriptPlayer::eventFilter(QObject* watched, QEvent* event)
 
 void ScriptPlayer::lookForAnswerLater()
 {
-    // A dialog may hide before it tells why.
+    // Queued: a dialog may hide before it emits its event.
     QMetaObject::invokeMethod(this, &ScriptPlayer::lookForAnswer, Qt::QueuedConnection);
 }
 
@@ -481,7 +481,7 @@ void ScriptPlayer::lookForAnswer()
     if (takeExpectedEvent())
         limit.stop();
     else if (mode == Mode::Attended && isAnsweredOtherwise())
-        storyOver = true; // Its rest tells of something that did not happen.
+        storyOver = true; // The rest of the script belongs to the answer that was not given.
     else
         return;
     resume();
@@ -492,7 +492,7 @@ bool ScriptPlayer::isAnsweredOtherwise() const
     for (const Instance& instance : instances) {
         if (instance.family->name != expected.dialog || instance.id != expected.id || !instance.window)
             continue;
-        // The events of the session window are no answers; sessions come and go in it as long as it is shown.
+        // Events of the session window, the only ones with a session id, are no answers of the person.
         const auto isAnswer = [&instance](const DialogEvent& event) {
             return event.sender == instance.dialog && event.sessionId.isNull();
         };

@@ -1,3 +1,4 @@
+#include "BrandingReport.h"
 #include "DialogCatalogue.h"
 #include "Gallery.h"
 #include "GuiInterface.h"
@@ -80,10 +81,11 @@ void addOptions(QCommandLineParser& parser)
     parser.setApplicationDescription(
         QStringLiteral("Loads the dialog plugin and drives its dialogs as an agent does.\n\n"
                        "  guihost run FILE      play a script of JSON Lines, \"-\" for standard input\n"
-                       "  guihost gallery DIR   render every dialog in its notable states"));
+                       "  guihost gallery DIR   render every dialog in its notable states\n"
+                       "  guihost branding [FILE]  say what a branding file gives and what in it is ignored"));
     parser.addHelpOption();
-    parser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("run or gallery"));
-    parser.addPositionalArgument(QStringLiteral("target"), QStringLiteral("the script or the directory"));
+    parser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("run, gallery or branding"));
+    parser.addPositionalArgument(QStringLiteral("target"), QStringLiteral("the script, the directory or the file"));
     parser.addOptions({
         {QStringLiteral("library"), QStringLiteral("The plugin; beside this program by default."),
          QStringLiteral("path")},
@@ -101,13 +103,18 @@ void addOptions(QCommandLineParser& parser)
     });
 }
 
+bool isBranding(const QCommandLineParser& parser)
+{
+    return parser.positionalArguments().value(0) == QLatin1String("branding");
+}
+
 /// What is wrong with the arguments; empty if nothing is.
 QString mistake(const QCommandLineParser& parser)
 {
     const QStringList arguments = parser.positionalArguments();
-    if (arguments.size() != 2)
+    if (arguments.size() != 2 && !(isBranding(parser) && arguments.size() == 1))
         return QStringLiteral("expected a command and its target, see guihost --help");
-    if (arguments.at(0) != QLatin1String("run") && arguments.at(0) != QLatin1String("gallery"))
+    if (!isBranding(parser) && arguments.at(0) != QLatin1String("run") && arguments.at(0) != QLatin1String("gallery"))
         return QStringLiteral("unknown command \"%1\", see guihost --help").arg(arguments.at(0));
     for (const auto& option : {std::make_pair(QStringLiteral("language"), languages()),
                                std::make_pair(QStringLiteral("dialog"), dialogNames())}) {
@@ -145,6 +152,10 @@ int main(int argc, char** argv)
     const QString wrong = mistake(parser);
     if (!wrong.isEmpty())
         return complain(wrong, Usage);
+    if (isBranding(parser)) {
+        const QString beside = QCoreApplication::applicationDirPath() + QStringLiteral("/oem.strings");
+        return BrandingReport(parser.positionalArguments().value(1, beside)).print() ? Success : Failure;
+    }
 
     // The plugin chooses its language when it is loaded.
     if (!language.isEmpty())

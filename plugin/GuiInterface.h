@@ -43,18 +43,18 @@ class IZentPasswordDialog;
 ///   such slot, or when this very connection exists already. The connection ends with either object.
 ///
 /// Everything happens on the GUI thread, inside the host's event loop; a QApplication must exist before the plugin is
-/// loaded. Without one **get** writes a message and returns null, and the branding file is not read. Destroying the
-/// root object leaves dialogs that were never deleted alive. The order of the virtual functions is part of the binary
-/// contract.
+/// loaded. Without one **get** writes a message and returns null, the branding file is not read, and the texts stay
+/// English. Destroying the root object leaves dialogs that were never deleted alive. The order of the virtual functions
+/// is part of the binary contract; new operations come at the end.
 class GuiInterface {
 public:
     virtual ~GuiInterface() = default;
 
     /// Sets the factor by which dialogs are scaled when they are created; dialogs that exist already keep their size.
-    /// The usual value is the logical resolution of the screen divided by 96. Dialogs ignore a factor that is not a
-    /// positive finite number.
+    /// The usual value is the logical resolution of the screen divided by 96; leave it at 1 where Qt itself scales what
+    /// it draws. Every value is stored, but dialogs are not scaled by one that is not a positive finite number.
     virtual void setRatio(float ratio) = 0;
-    /// The factor set last, 1.0 at first.
+    /// The value set last, 1.0 at first.
     virtual float getRatio() const = 0;
 
     virtual IAboutDialog* getAboutDialogInstance() = 0;

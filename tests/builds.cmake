@@ -1,13 +1,13 @@
 # Tests that configure and build something of their own.
 add_test(NAME consumer COMMAND ${CMAKE_COMMAND}
     -D BINARY_DIR=${PROJECT_BINARY_DIR}
-    -D SOURCE_DIR=${CMAKE_CURRENT_SOURCE_DIR}/consumer
+    -D SOURCE_DIR=${PROJECT_SOURCE_DIR}/examples/agent
     -D WORK_DIR=${CMAKE_CURRENT_BINARY_DIR}/consumer
     -D GENERATOR=${CMAKE_GENERATOR}
     -D CONFIG=$<CONFIG>
     -D COMPILER=${CMAKE_CXX_COMPILER}
     -D FLAGS=$<$<BOOL:${GUI_SANITIZE}>:-fsanitize=address,undefined>
-    -P ${CMAKE_CURRENT_SOURCE_DIR}/consumer/test.cmake)
+    -P ${CMAKE_CURRENT_SOURCE_DIR}/consumer.cmake)
 set_tests_properties(consumer PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen;${leak_options}")
 
 find_program(MINGW_COMPILER x86_64-w64-mingw32-g++)

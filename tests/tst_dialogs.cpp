@@ -51,7 +51,6 @@ void DialogsTest::events_data()
 
     add("AcceptMessageDialog", "slClose() btnCancel btnClose", "evClose");
     add("AcceptMessageDialog", "Return reject() close btnMessageInnerButton", "evOk");
-    add("AcceptMessageDialog", "Escape", "");
 
     add("ProgressDialog", "Space Return Enter Escape A accept()", "");
     add("ProgressDialog", "btnCancel btnClose", "evCancel");
@@ -69,7 +68,6 @@ void DialogsTest::events_data()
     add("AboutDialog", "Return Enter Space accept() reject() close btnOk btnClose", "evClose");
     add("AboutDialog", "btnUpdateNow", "evUpdateNow");
     add("AboutDialog", "Return Enter", "evLinkClicked", "", "lblWebSiteLink");
-    add("AboutDialog", "Escape", "");
 
     add("AuthorizationDialog", "reject() slClose() close btnCancel btnClose", "evClose");
     add("AuthorizationDialog", "Return Enter accept() slLogin() btnLogin Escape", "");
@@ -90,12 +88,10 @@ void DialogsTest::events_data()
     add("EnterPasswordDialog", "Return Enter accept() onOkClicked() buttonOk", "evOk");
     add("EnterPasswordDialog", "onCancelClicked() buttonCancel", "evCancel");
     add("EnterPasswordDialog", "onCloseClicked()", "evCloseClicked");
-    add("EnterPasswordDialog", "Escape", "");
 
     add("OptionDialog", "reject() close btnClose btnCancel", "evClose");
     add("OptionDialog", "slDeactivateAccount()", "evDeactivate");
     add("OptionDialog", "Return accept() btnSave", "evSave");
-    add("OptionDialog", "Escape", "");
     add("OptionDialog", "btnSave", "evSave", R"({"proxyAuthEnabled": true})");
     add("OptionDialog", "btnSave", "", R"({"proxyEnabled": true})");
     add("OptionDialog", "btnSave", "evSave", R"({"proxyEnabled": true, "proxyAddress": " "})");

@@ -27,7 +27,6 @@ class SessionLogTest : public GuiTest {
 
 private Q_SLOTS:
     void init();
-    void actions();
     void rolesAndColors();
     void badInput_data();
     void badInput();
@@ -84,21 +83,6 @@ QRect SessionLogTest::rowRect(int row) const
     return view->visualRect(view->model()->index(row, 0));
 }
 
-void SessionLogTest::actions()
-{
-    const char* const rows[][3] = {
-        {"file-upload", "reply", "File uploaded"},      {"file-download", "abort", "Download aborted"},
-        {"dir-upload", "cancel", "Upload cancelled"},   {"dir-download", "error", ""},
-        {"file-erase", "reply", "File deleted"},        {"dir-rename", "abort", ""},
-        {"proc-kill", "reply", "Process ended"},        {"serv-pause", "reply", "Service paused"},
-        {"session-resume", "reply", "Session resumed"}, {"file-upload", "Reply", "file-upload"},
-        {"File-Upload", "reply", "File-Upload"},        {"file-copy", "reply", "file-copy"}};
-    for (const auto& row : rows) {
-        session->addLogEvent(noon, QString(), QLatin1String(row[0]), QStringLiteral("x"), QLatin1String(row[1]));
-        QCOMPARE(text(0), QString(noonText + QLatin1String(row[2]) + QStringLiteral(" x")));
-    }
-}
-
 void SessionLogTest::rolesAndColors()
 {
     const QString html = QStringLiteral("<p><span style=\" font-size:14px; color:#a9adb3;\">%1</span><span style=\" "
@@ -114,9 +98,11 @@ void SessionLogTest::rolesAndColors()
         session->addLogEvent(noon, object, object, object, QString());
         QCOMPARE(text(0, Qt::DisplayRole), html.arg(noonText, QLatin1String(row[1]), object));
     }
+    session->addLogEvent(noon, QString(), QStringLiteral("make-dir"), QString(), QStringLiteral("Reply"));
+    QCOMPARE(text(0), QString(noonText + QStringLiteral("make-dir ")));
     session->addEmptyLogRow();
     QCOMPARE(text(0, Qt::DisplayRole), html.arg(QStringLiteral(" "), QStringLiteral("#89C1FE"), QString()));
-    QCOMPARE(view->model()->rowCount(), 6);
+    QCOMPARE(view->model()->rowCount(), 7);
 }
 
 void SessionLogTest::badInput_data()

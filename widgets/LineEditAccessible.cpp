@@ -215,8 +215,8 @@ void send(QAccessibleEvent* event)
         nextHandler(event);
         return;
     }
-    // The way to the window system is open only while no handler is installed. A table was told of its change before
-    // any handler; it must not hear of it twice, and no window system listens to it.
+    // Qt passes an event to the window system only while no handler is installed. It has told the table of a change
+    // before it called the handler; passing TableModelChanged on would tell the table again.
     if (event->type() == QAccessible::TableModelChanged)
         return;
     QAccessible::installUpdateHandler(nullptr);

@@ -6,7 +6,7 @@
 #include <QFont>
 
 namespace {
-// A few screens full.
+// Enough for the rows of a few screens.
 constexpr int keptTexts = 200;
 
 QString timeText(const LogEntry& entry)

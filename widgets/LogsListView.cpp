@@ -31,7 +31,7 @@ LogsListView::LogsListView(QWidget* parent) : QListView(parent)
 
 int LogsListView::textWidth(int listWidth) const
 {
-    // What styles leave free at both sides of an item's text.
+    // The margin that styles keep at both sides of an item's text.
     const int itemMargin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
     const auto* delegate = qobject_cast<RichTextDelegate*>(itemDelegate());
     const int margin = itemMargin + (delegate ? delegate->margin() : 0);
@@ -206,7 +206,7 @@ bool LogsListView::viewportEvent(QEvent* event)
 {
     if (event->type() != QEvent::ToolTip)
         return QListView::viewportEvent(event);
-    // The role gives the path as it came.
+    // The role returns the path exactly as the host gave it.
     const auto* help = static_cast<QHelpEvent*>(event);
     const QModelIndex index = indexAt(help->pos());
     const QString path = withVisibleControls(index.data(Qt::ToolTipRole).toString());
@@ -232,7 +232,7 @@ void LogsListView::paintEvent(QPaintEvent* event)
         itemDelegate()->paint(&painter, option, index);
     }
     if (focused && last < 0) {
-        // Without a row to mark, the list itself shows that the keyboard has come here.
+        // An empty list has no current row to mark; a frame shows that it has the focus.
         painter.setPen(palette().color(QPalette::Text));
         painter.drawRect(viewport()->rect().adjusted(0, 0, -1, -1));
     }
@@ -287,7 +287,7 @@ int LogsListView::rowsPerPage() const
 
 void LogsListView::layOutNow() const
 {
-    // Asking where a row is finishes the layout that is due, as in every item view.
+    // As every item view does before it answers where a row is.
     const_cast<LogsListView*>(this)->executeDelayedItemsLayout();
 }
 

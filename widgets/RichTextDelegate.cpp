@@ -9,10 +9,10 @@
 #include <QTextLayout>
 
 namespace {
-// A few screens full.
+// Enough for the rows of a few screens.
 constexpr int keptDocuments = 200;
 
-// As documents have it by themselves.
+// QTextDocument's default.
 constexpr int documentMargin = 4;
 
 void scaleFonts(QTextDocument* document, float ratio)
@@ -58,7 +58,7 @@ QAbstractTextDocumentLayout::PaintContext paintContext(const QStyleOptionViewIte
     if (option.state & QStyle::State_Selected) {
         const QColor color = option.palette.color(QPalette::Active, QPalette::HighlightedText);
         context.palette.setColor(QPalette::Text, color);
-        // Text with a colour of its own takes no notice of the palette.
+        // The palette does not change text that has a colour in its HTML; a selection does.
         QAbstractTextDocumentLayout::Selection all;
         all.cursor = QTextCursor(document);
         all.cursor.select(QTextCursor::Document);

@@ -77,6 +77,11 @@ void TakeoverPanel::setEndButtonVisible(bool visible)
     btnEndRemoteControlSession->setVisible(visible);
 }
 
+QString TakeoverPanel::sessionName() const
+{
+    return withVisibleControls(fullUsername) + QLatin1String(", ") + sessionTypeLabel->text();
+}
+
 bool TakeoverPanel::isRunning() const
 {
     return !startTime.isNull();

@@ -23,6 +23,8 @@ public:
     void setCloseButtonVisible(bool visible);
     void setEndButtonVisible(bool visible);
 
+    /// Whose session it is, and of which kind.
+    QString sessionName() const;
     /// Whether a start time is set.
     bool isRunning() const;
 

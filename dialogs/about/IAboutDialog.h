@@ -13,7 +13,7 @@
 class IAboutDialog : public virtual IBaseDialog {
 public:
     enum TEvent {
-        evClose = 0,       ///< OK, the close button, Return or Enter. Hide or delete the box.
+        evClose = 0,       ///< OK, the close button, Return, Enter or a close request. Hide or delete the box.
         evUpdateNow = 1,   ///< "Update now" was clicked.
         evLinkClicked = 2, ///< The support web site was clicked; the box opens nothing itself. Open the address from
                            ///< your own branding record, and never from a process with system rights.

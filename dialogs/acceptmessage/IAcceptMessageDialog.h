@@ -12,7 +12,7 @@ class IAcceptMessageDialog : public virtual IBaseDialog {
 public:
     enum TEvent {
         evClose = 0, ///< Cancel or the close button was clicked.
-        evOk = 1,    ///< OK was clicked, Return or Enter was pressed, or the window was closed by other means.
+        evOk = 1,    ///< OK was clicked, Return or Enter was pressed, or the window was asked to close.
     };
 
     /// The text shown, empty at first.

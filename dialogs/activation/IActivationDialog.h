@@ -13,7 +13,7 @@
 class IActivationDialog : public virtual IBaseDialog {
 public:
     enum TEvent {
-        evClose = 0,            ///< Cancel or the close button was clicked.
+        evClose = 0,            ///< Cancel, the close button or a close request.
         evEnroll = 1,           ///< Enroll, Return or Enter; the latter also with incomplete fields. Check
                                 ///< getServerUrl() and getToken() and say what is wrong.
         evGoToRegistration = 2, ///< Reserved: no widget of the dialog triggers it.

@@ -1,10 +1,10 @@
 #include "ApproveRemoteConnectionDialog.h"
 
+#include "Announcement.h"
 #include "DisplayText.h"
 #include "Scaling.h"
 #include "ui_ApproveRemoteConnectionDialog.h"
 
-#include <QAccessible>
 #include <QApplication>
 #include <QPointer>
 #include <QScreen>
@@ -165,11 +165,11 @@ void ApproveRemoteConnectionDialog::setVisible(bool visible)
     if (appears)
         moveOffOtherPrompts();
     BaseDialog::setVisible(visible);
-    if (appears) {
-        // Screen readers follow the focus, which the prompt does not take.
-        QAccessibleEvent alert(this, QAccessible::Alert);
-        QAccessible::updateAccessibility(&alert);
-    }
+    // Screen readers follow the focus, which the prompt does not take.
+    if (appears)
+        announce(this,
+                 withVisibleControls(requesterName) + titleSeparator + sessionText(sessionType) + QLatin1String(". ")
+                     + ui->messageTextEdit->toPlainText());
     if (!visible)
         return;
 
@@ -240,7 +240,9 @@ void ApproveRemoteConnectionDialog::refreshCountdown()
     CountdownButton* button = countdownOnCancel != 0 ? ui->cancelButton : ui->allowButton;
     button->setSecondsLeft(countdown);
     const qint64 seconds = qMin<qint64>(countdown, std::numeric_limits<int>::max());
-    button->setAccessibleDescription(tr("%n second(s) left to answer", nullptr, static_cast<int>(seconds)));
+    // For screen readers. A change of the accessible description they would speak each second, if the button has the
+    // focus; of a new tool tip, which they take for the description, they are not told.
+    button->setToolTip(tr("%n second(s) left to answer", nullptr, static_cast<int>(seconds)));
 }
 
 void ApproveRemoteConnectionDialog::setTitleParts(const QString& session)

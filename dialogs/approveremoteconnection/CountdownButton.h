@@ -13,4 +13,7 @@ public:
     void setSecondsLeft(qint64 seconds);
 
     QSize sizeHint() const override;
+
+protected:
+    bool event(QEvent* event) override;
 };

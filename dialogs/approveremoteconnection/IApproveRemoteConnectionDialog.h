@@ -45,8 +45,9 @@ public:
     virtual void setSessionType(int type) = 0;
     virtual int getSessionType() const = 0;
 
-    /// Sets the message. With @p translate, @p text is a key of the translation context "ControllerConsts" in the
-    /// plugin's or the host's translations; without, or when the key is unknown, it is shown as it is.
+    /// Sets the message. With @p translate, @p text is a key of the context "ControllerConsts" in a translator that the
+    /// host has installed; the plugin's translations hold no such keys. Without @p translate, or when the key is
+    /// unknown, it is shown as it is.
     virtual void setMessage(const QString& text, bool translate) = 0;
     /// The message shown.
     virtual const QString& getMessage() const = 0;

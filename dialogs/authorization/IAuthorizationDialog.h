@@ -10,7 +10,7 @@
 class IAuthorizationDialog : public virtual IBaseDialog {
 public:
     enum TEvent {
-        evClose = 0,   ///< Cancel or the close button was clicked.
+        evClose = 0,   ///< Cancel, the close button or a close request.
         evLogin = 1,   ///< Login, Return or Enter; never while the password is empty. Read both values and check them.
         evGoToWeb = 2, ///< "Forgot username or password?" was activated. The dialog opens nothing itself.
     };

@@ -1,9 +1,11 @@
 #include "BaseDialog.h"
 
+#include "AccessibleFactory.h"
 #include "BrandingStrings.h"
 #include "DisplayText.h"
 #include "ElidedLabel.h"
 #include "Scaling.h"
+#include "TextAccessible.h"
 
 #include <QAbstractButton>
 #include <QCloseEvent>
@@ -49,6 +51,8 @@ BaseDialog::BaseDialog(QWidget* parent) : QDialog(parent)
     // No QStringLiteral: Qt's font cache keeps the name, which must not lie in a library that a host may unload.
     setFont(QFont(QLatin1String("Arial"), 9));
     BaseDialog::setupWindow();
+    installAccessible<DialogAccessible, BaseDialog>();
+    installAccessible<LabelAccessible, QLabel>();
 }
 
 void BaseDialog::setModal(bool modal)

@@ -6,7 +6,10 @@
 /// back with the delete operation of the same family. All calls belong to the GUI thread.
 ///
 /// A dialog never closes itself on a click: it emits `dialogEvent` and stays as it is until the host hides it, ends it
-/// with done() or deletes it. The order of the virtual functions is part of the binary contract.
+/// with done() or deletes it. The few that hide on a key or a close request say so in their interface.
+///
+/// This class is frozen: its virtual functions come first in the table of every dialog interface, so that one more
+/// would shift all of theirs and break hosts that are already built.
 class IBaseDialog {
 public:
     /// Deleting a dialog directly is allowed, but the delete operation of GuiInterface is the usual way: it waits for
@@ -24,12 +27,13 @@ public:
     /// Hides the dialog. What was set and typed stays.
     virtual void hide() = 0;
 
-    /// Closes the dialog and makes a running exec() return @p result.
+    /// Hides the dialog, emits QDialog's `finished(result)` and makes a running exec() return @p result.
     virtual void done(int result) = 0;
 
-    /// Shows the dialog modally and returns when the host calls done() or hide(). Returns the result given to done(),
-    /// 0 when it was hidden or deleted. A dialog that is shown already appears anew, as it could not become modal
-    /// otherwise; called again for a dialog that runs already, it returns -1 at once.
+    /// Shows the dialog modal and runs an event loop until the dialog is hidden or deleted, by the host or by a close
+    /// request that hides it. Returns the result given to done(), 0 otherwise. Events alone do not end it. A dialog
+    /// that is shown already appears anew, as it could not become modal otherwise; called again for a dialog that runs
+    /// already, it returns -1 at once.
     virtual int exec() = 0;
 
     /// Scales the dialog about its centre, and all widgets in it, by @p ratio. 1.0 changes nothing. Ratios multiply:

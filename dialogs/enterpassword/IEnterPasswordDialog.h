@@ -15,6 +15,9 @@ public:
 /// Asks for the right to go on: a computer administrator's account, or the custom password of the management console.
 /// Modal; the host checks what was typed.
 ///
+/// A close request hides the dialog without an event. A host that must know connects to the `finished(int)` of its
+/// window, a QDialog: `dynamic_cast<QDialog*>(dialog)`.
+///
 /// Signal: `dialogEvent(IEnterPasswordDialog* pSender, IEnterPasswordDialog::TEvent eventType)`
 class IEnterPasswordDialog : public virtual IBaseDialog {
 public:

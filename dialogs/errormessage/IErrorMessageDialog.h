@@ -10,7 +10,7 @@
 class IErrorMessageDialog : public virtual IBaseDialog {
 public:
     enum TEvent {
-        evClose = 0,    ///< Cancel or the close button was clicked. Hide or delete the dialog.
+        evClose = 0,    ///< Cancel, the close button or a close request. Hide or delete the dialog.
         evTryAgain = 1, ///< Return or Enter was pressed. Repeat what failed.
     };
 

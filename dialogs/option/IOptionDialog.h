@@ -12,7 +12,7 @@
 class IOptionDialog : public virtual IBaseDialog {
 public:
     enum TEvent {
-        evClose = 0,      ///< Cancel or the close button was clicked. Drop the changes.
+        evClose = 0,      ///< Cancel, the close button or a close request. Drop the changes.
         evDeactivate = 1, ///< Reserved: the deactivation button is never visible.
         evSave = 2,       ///< Save, Return or Enter; the latter also with an incomplete proxy, so check the values.
     };

@@ -1,10 +1,12 @@
 #include "OptionDialog.h"
 
+#include "SpinBoxAccessible.h"
 #include "WheelGuard.h"
 #include "ui_OptionDialog.h"
 
 OptionDialog::OptionDialog(QWidget* parent) : BaseDialog(parent), ui(std::make_unique<Ui::OptionDialog>())
 {
+    installSpinBoxAccessible();
     ui->setupUi(this);
     setupWindow();
     // Not in the form: fields created within an unchecked group are disabled while they are still under construction,

@@ -23,8 +23,9 @@ public:
     /// Sets the text, shown as it is and never taken for markup. It wraps within two lines; keep it short.
     virtual void setMessage(const QString& text) = 0;
 
-    /// Sets the percentage to `value / (total / 100)` in whole numbers. Pass a total of at least 100: smaller ones,
-    /// 0 included, change nothing. The result is not limited: 150 of 100 shows 150 percent.
+    /// Sets the percentage to `value / (total / 100)`, both divisions in whole numbers. A total below 100, 0 included,
+    /// changes nothing. The result is not limited: 150 of 100 shows 150 percent, and 199 of 199 shows 199. Only totals
+    /// that are multiples of 100 are exact; 100 is the usual one.
     virtual void setProgress(unsigned int value, unsigned int total) = 0;
     /// The percentage, 0 at first.
     virtual int getProgress() const = 0;

@@ -89,7 +89,7 @@ void ProgressDialog::hideProgressValue()
 
 void ProgressDialog::showProgress()
 {
-    ui->lblProgress->setText(QString::number(getProgress()) + QLatin1Char('%'));
+    ui->lblProgress->setPercent(getProgress());
 }
 
 void ProgressDialog::slCancel()

@@ -15,7 +15,7 @@ public:
     enum TEvent {
         evRebootNow = 0, ///< Restart (or shut down, see setShutdown()) now.
         evPostpone = 1,  ///< Remind in getPostponePeriod().
-        evClosed = 2,    ///< The window was closed by the system or the host; treat it as postponed.
+        evClosed = 2,    ///< The window was asked to close and has hidden itself; treat it as postponed.
     };
 
     /// The plain text of the reason shown, empty at first.

@@ -51,7 +51,7 @@ RebootDialog::RebootDialog(QWidget* parent) : BaseDialog(parent), ui(std::make_u
     QScrollBar* scrollBar = ui->rebootReasonLabel->verticalScrollBar();
     scrollBar->setFocusPolicy(Qt::TabFocus);
     setTabOrder(ui->postponeButton, scrollBar);
-    scrollBar->setAccessibleName(ui->rebootReasonLabel->accessibleName());
+    RebootDialog::setShutdown(false);
 
     ui->timeoutComboBox->setFocus(Qt::OtherFocusReason);
     setModal(true);
@@ -95,6 +95,10 @@ void RebootDialog::setShutdown(bool shutdown)
 {
     shutdownRequested = shutdown;
     ui->rebootNowButton->setText(shutdown ? tr("Shutdown now") : tr("Reboot now"));
+    //: Name of a text for screen readers
+    const QString reason = shutdown ? tr("Reason for the shutdown") : tr("Reason for the restart");
+    ui->rebootReasonLabel->setAccessibleName(reason);
+    ui->rebootReasonLabel->verticalScrollBar()->setAccessibleName(reason);
 }
 
 void RebootDialog::rebootNow()

@@ -9,8 +9,10 @@
 /// It stands at the bottom right of the primary screen, above other windows, and shows one panel per remote-control
 /// session and one area for a remote-tools session with its activity log. A new session shows the window if it is
 /// hidden or minimised, without taking the focus from what the person is typing; it hides itself when nothing is left
-/// to show. It grows upward from its bottom-right corner, but its header never leaves the screen.
-/// Names, paths and keys from the remote side are shown as plain text; control characters in them become visible.
+/// to show. It grows upward from its bottom-right corner, but its header never leaves the screen. The close button in
+/// the header hides it whatever is going on and emits nothing; show() or a new session brings it back. Close requests
+/// are ignored. Names, paths and keys from the remote side are shown as plain text; control characters in them become
+/// visible.
 ///
 /// The operations may be called from the slot that receives an event. An event that is just being received is not
 /// emitted again for the same session unless something has changed: endRemoteToolsSession() called in
@@ -63,9 +65,13 @@ public:
     /// Adds one line at the top of the activity log. Any text is allowed.
     /// @param msecsSinceEpoch when it happened, in milliseconds since 1970 (UTC); shown as local time
     /// @param category "file", "process", "service" or "event"; unknown ones count as "file"
-    /// @param action an action key such as "file-upload"; unknown ones are shown as they are
+    /// @param action an action key: "file-" or "dir-" with "upload", "download", "erase" or "rename", "make-dir",
+    ///        "proc-kill", "serv-" with "start", "stop", "restart", "pause" or "resume", "session-suspend" or
+    ///        "session-resume"; unknown ones are shown as they are
     /// @param path the file, process or service concerned
-    /// @param status "reply" (done), "abort", "cancel" or "error"; unknown ones show the action key
+    /// @param status "reply" (done), "abort", "cancel" or "error"; unknown ones show the action key. Only uploads and
+    ///        downloads have words for "abort" and "cancel", and nothing has words for "error": such a row shows time
+    ///        and path alone
     virtual void addLogEvent(qint64 msecsSinceEpoch, const QString& category, const QString& action,
                              const QString& path, const QString& status) = 0;
     /// The id last given to startRemoteToolsSession(), empty before.

@@ -1,6 +1,8 @@
 #include "RemoteConnectionDialog.h"
 
 #include "ActivityKeys.h"
+#include "Announcement.h"
+#include "DisplayText.h"
 #include "ElapsedTime.h"
 #include "LogsListModel.h"
 #include "PlainToolTip.h"
@@ -30,6 +32,8 @@ RemoteConnectionDialog::RemoteConnectionDialog(QWidget* parent)
 {
     ui->setupUi(this);
     corner = new WindowCorner(this, ui->header);
+    // Screen readers take the tool tip for the description where there is none, and would say the name twice.
+    ui->closeButton->setAccessibleDescription(QStringLiteral(" "));
     RemoteConnectionDialog::setupWindow();
     // A remote person's arrival must not take the keyboard from what somebody is typing.
     setAttribute(Qt::WA_ShowWithoutActivating);
@@ -67,6 +71,7 @@ void RemoteConnectionDialog::addRemoteControlSession(const QString& sessionId, c
 {
     TakeoverPanel* const known = panels.value(sessionId);
     TakeoverPanel* const panel = known ? known : createPanel(sessionId);
+    const bool starts = !panel->isRunning();
     panel->setUsername(userName);
     panel->setEndButtonVisible(canEnd);
     panel->setCloseButtonVisible(!canEnd);
@@ -76,6 +81,8 @@ void RemoteConnectionDialog::addRemoteControlSession(const QString& sessionId, c
     updateClockTimer();
     setPartVisible(panel, true);
     showForSession();
+    if (starts)
+        announceStart(panel->sessionName());
 }
 
 void RemoteConnectionDialog::endRemoteControlSession(const QString& sessionId)
@@ -84,6 +91,8 @@ void RemoteConnectionDialog::endRemoteControlSession(const QString& sessionId)
     const QString id = sessionId;
     const QPointer<RemoteConnectionDialog> self(this);
     TakeoverPanel* const panel = panels.value(id);
+    if (panel && panel->isRunning())
+        announceEnd(panel->sessionName());
     const bool hasChanged = panel && (!keepPanels || panel->isRunning());
     if (panel)
         setToolsCloseEnabled(true);
@@ -110,6 +119,7 @@ void RemoteConnectionDialog::setKeepEndedSessionPanels(bool keep)
 void RemoteConnectionDialog::startRemoteToolsSession(const QString& sessionId, int sessionType, const QString& userName,
                                                      qint64 startMsecsSinceEpoch, bool canEnd)
 {
+    const bool starts = !isToolsSessionRunning() || sessionId != toolsSessionId;
     toolsSessionId = sessionId;
     toolsSessionType = sessionType;
     toolsUserName = userName;
@@ -124,6 +134,8 @@ void RemoteConnectionDialog::startRemoteToolsSession(const QString& sessionId, i
     updateClockTimer();
     setPartVisible(ui->fileTransportPanel, true);
     showForSession();
+    if (starts)
+        announceStart(toolsSessionName());
 }
 
 void RemoteConnectionDialog::endRemoteToolsSession(const QString& sessionId)
@@ -132,6 +144,8 @@ void RemoteConnectionDialog::endRemoteToolsSession(const QString& sessionId)
     const QPointer<RemoteConnectionDialog> self(this);
     // End the session first: a slot may start the next one when it is told that the area has closed.
     const bool wasRunning = isToolsSessionRunning();
+    if (wasRunning)
+        announceEnd(toolsSessionName());
     toolsStartTime = QDateTime();
     showToolsButtons(false, true);
     updateClockTimer();
@@ -350,6 +364,23 @@ void RemoteConnectionDialog::setToolsCloseEnabled(bool enabled)
     ui->btnCloseRemoteToolsPopup->setEnabled(enabled);
     // The button's own style sheet has one colour for both states.
     ui->btnCloseRemoteToolsPopup->graphicsEffect()->setEnabled(!enabled);
+}
+
+QString RemoteConnectionDialog::toolsSessionName() const
+{
+    return withVisibleControls(toolsUserName) + QLatin1String(", ") + ui->toolSessionTypeLabel->text();
+}
+
+void RemoteConnectionDialog::announceStart(const QString& sessionName)
+{
+    //: Spoken by screen readers; %1 is a person's name and the kind of session
+    announce(this, tr("Session started: %1").arg(sessionName));
+}
+
+void RemoteConnectionDialog::announceEnd(const QString& sessionName)
+{
+    //: Spoken by screen readers; %1 is a person's name and the kind of session
+    announce(this, tr("Session ended: %1").arg(sessionName));
 }
 
 void RemoteConnectionDialog::showForSession()

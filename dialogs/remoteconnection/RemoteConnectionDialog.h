@@ -84,6 +84,10 @@ private:
     void closeToolsPopup();
     void showToolsButtons(bool end, bool close);
     void setToolsCloseEnabled(bool enabled);
+    /// For screen readers: whose session it is, and of which kind.
+    QString toolsSessionName() const;
+    void announceStart(const QString& sessionName);
+    void announceEnd(const QString& sessionName);
     void showForSession();
     void hideIfEmpty();
     void updateClockTimer();

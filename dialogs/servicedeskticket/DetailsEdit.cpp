@@ -12,7 +12,7 @@ int characterBoundary(QTextDocument* document, int limit)
 {
     QTextCursor cursor(document);
     cursor.setPosition(limit);
-    // An empty line has no layout that could say so.
+    // The layout of an empty line knows no cursor positions.
     if (!cursor.atBlockStart() && !cursor.block().layout()->isValidCursorPosition(cursor.positionInBlock()))
         cursor.movePosition(QTextCursor::PreviousCharacter);
     return cursor.position();
@@ -50,11 +50,11 @@ void DetailsEdit::cutSurplus()
     // limit, stays; only undo leaves something to redo.
     if (maxLength <= 0 || document()->characterCount() - 1 <= maxLength || document()->isRedoAvailable())
         return;
-    // What stood before the edit is not split by it: a combining mark typed at the limit leaves its letter alone.
+    // Never cut inside text that is older than this edit: a combining mark typed at the limit leaves its letter alone.
     const int end = qMax(characterBoundary(document(), maxLength), qMin(editPosition, maxLength));
     const QString kept = document()->toRawText().left(end);
-    // Taking the edit back first leaves one step in the history. That may have begun before the edit, with what was
-    // typed just before it, which comes again together with it.
+    // Undoing the edit before the kept text is inserted leaves one step in the history. Qt may have joined the edit
+    // with what was typed just before it; `kept` holds that too, so it is inserted again.
     const bool isUndoable = document()->isUndoAvailable();
     if (isUndoable)
         document()->undo();
@@ -71,7 +71,7 @@ void DetailsEdit::insertFromMimeData(const QMimeData* source)
         QTextEdit::insertFromMimeData(source);
         return;
     }
-    // One more than fits, so that it is seen that something is to be cut, and where a character ends.
+    // One character more than fits makes cutSurplus() cut, and lets it see whether a character would be split.
     QMimeData beginning;
     beginning.setText(text.left(maxLength + 1));
     QTextEdit::insertFromMimeData(&beginning);

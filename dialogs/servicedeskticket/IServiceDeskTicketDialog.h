@@ -15,8 +15,10 @@
 class IServiceDeskTicketDialog : public virtual IBaseDialog {
 public:
     enum TEvent {
-        evCancel = 0, ///< Closed: nothing was edited, or the person confirmed to discard it.
-        evSubmit = 1, ///< Submitted; subject and details are not empty and keep their limits.
+        evCancel = 0, ///< Cancel, Escape, the close button or a close request; nothing was edited, or the person
+                      ///< confirmed to discard it.
+        evSubmit = 1, ///< Submitted; subject and details are not empty and keep their limits. By Return or Enter the
+                      ///< form has hidden itself; show() brings it back as it was.
     };
 
     virtual QString getSubject() const = 0;

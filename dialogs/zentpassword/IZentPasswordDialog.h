@@ -10,7 +10,7 @@
 class IZentPasswordDialog : public virtual IBaseDialog {
 public:
     enum TEvent {
-        evClose = 0,    ///< Cancel was clicked or the window was asked to close.
+        evClose = 0,    ///< Cancel or a close request.
         evContinue = 1, ///< Continue, Return or Enter; never while the password is empty.
     };
 

@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QProcessEnvironment>
 #include <QSettings>
+#include <QTemporaryFile>
 #include <QTextCodec>
 
 #include <new>
@@ -22,21 +23,26 @@ void readFile(BrandingStrings& strings, const QString& path)
 {
     QFile file(path);
     const QByteArray content = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    // A serialised object in place of a text: a few bytes of it may ask for any amount of memory.
-    if (content.contains("@Variant("))
+    // QSettings would deserialise @Variant(…), which can allocate any amount. A second @ makes it plain text; that is
+    // put into a copy, as the file belongs to the deployment.
+    const QByteArray variant("@Variant(");
+    QTemporaryFile copy;
+    const bool harmless = !content.contains(variant);
+    if (!harmless
+        && (!copy.open() || copy.write(QByteArray(content).replace(variant, '@' + variant)) < 0 || !copy.flush()))
         return;
 
-    QSettings settings(path, QSettings::IniFormat);
+    QSettings settings(harmless ? path : copy.fileName(), QSettings::IniFormat);
     // Without a codec QSettings takes the bytes for Latin-1, and few editors write that today.
     if (isUtf8(content))
         settings.setIniCodec("UTF-8");
 
-    const auto read = [&settings](const char* key, QString& field) {
+    const auto read = [&](const char* key, QString& field) {
         QString value = settings.value(QLatin1String(key), QString()).toString();
         // QSettings takes the bytes of a byte order mark before the first key for a part of that key.
         if (value.isEmpty())
             value = settings.value(QLatin1String("\xEF\xBB\xBF") + QLatin1String(key), QString()).toString();
-        if (!value.isEmpty())
+        if (!value.isEmpty() && !value.startsWith(QLatin1String(variant)))
             field = value;
     };
     read("companyName", strings.companyName);
@@ -55,7 +61,7 @@ void readDirectory(BrandingStrings& strings, const QString& directory)
         try {
             readFile(strings, path);
         } catch (const std::bad_alloc&) {
-            // Such an object behind escapes; what was read before it stays.
+            // A serialised object written with escapes is not recognised above; keep what was read before it.
         }
         qDebug("OEM strings loaded");
     } else {

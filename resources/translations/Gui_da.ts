@@ -111,7 +111,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>You need to enroll Tavik by providing host, port and token from Device Enrollment email and pressing &quot;Enroll&quot; button.</source>
-        <translation>Du skal tilmelde Tavik ved at angive vært, port og token fra mailen om enhedstilmelding og klikke på knappen ”Tilmeld”.</translation>
+        <translation>Du skal tilmelde Tavik ved at angive vært, port og token fra mailen om&#xa0;enhedstilmelding og klikke på knappen ”Tilmeld”.</translation>
     </message>
     <message>
         <source>Tavik needs to be enrolled
@@ -664,8 +664,12 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Reason for the restart</source>
-        <extracomment>Name of a text for screen readers</extracomment>
         <translation>Årsag til genstart</translation>
+    </message>
+    <message>
+        <source>Reason for the shutdown</source>
+        <extracomment>Name of a text for screen readers</extracomment>
+        <translation>Årsag til nedlukning</translation>
     </message>
 </context>
 <context>
@@ -817,6 +821,16 @@ Name of the large picture for screen readers</extracomment>
         <extracomment>Name of the button for screen readers, never shortened</extracomment>
         <translation>Afslut session</translation>
     </message>
+    <message>
+        <source>Session started: %1</source>
+        <extracomment>Spoken by screen readers; %1 is a person&apos;s name and the kind of session</extracomment>
+        <translation>Session startet: %1</translation>
+    </message>
+    <message>
+        <source>Session ended: %1</source>
+        <extracomment>Spoken by screen readers; %1 is a person&apos;s name and the kind of session</extracomment>
+        <translation>Session afsluttet: %1</translation>
+    </message>
 </context>
 <context>
     <name>ServiceDeskTicketDialog</name>
@@ -851,7 +865,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Include device data (brand, model, serial number, logged on user, domain/workgroup)</source>
-        <translation>Medtag enhedsdata (mærke, model, serienummer, pålogget bruger, domæne/arbejdsgruppe)</translation>
+        <translation>Medtag enhedsdata (mærke, model, serienummer, pålogget bruger, domæne&#xa0;eller&#xa0;arbejdsgruppe)</translation>
     </message>
     <message>
         <source>Note: Company, Device Name and Owner are included by default.</source>

@@ -111,7 +111,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>You need to enroll Tavik by providing host, port and token from Device Enrollment email and pressing &quot;Enroll&quot; button.</source>
-        <translation>Registrieren Sie Tavik: Geben Sie Host, Port und Token aus der E‑Mail zur Geräteregistrierung ein und klicken Sie auf „Registrieren“.</translation>
+        <translation>Registrieren Sie Tavik: Geben Sie Host, Port und Token aus der E‑Mail zur&#xa0;Geräteregistrierung ein und klicken Sie auf „Registrieren“.</translation>
     </message>
     <message>
         <source>Tavik needs to be enrolled
@@ -664,8 +664,12 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Reason for the restart</source>
-        <extracomment>Name of a text for screen readers</extracomment>
         <translation>Grund für den Neustart</translation>
+    </message>
+    <message>
+        <source>Reason for the shutdown</source>
+        <extracomment>Name of a text for screen readers</extracomment>
+        <translation>Grund für das Herunterfahren</translation>
     </message>
 </context>
 <context>
@@ -816,6 +820,16 @@ Name of the large picture for screen readers</extracomment>
         <comment>in full</comment>
         <extracomment>Name of the button for screen readers, never shortened</extracomment>
         <translation>Sitzung beenden</translation>
+    </message>
+    <message>
+        <source>Session started: %1</source>
+        <extracomment>Spoken by screen readers; %1 is a person&apos;s name and the kind of session</extracomment>
+        <translation>Sitzung begonnen: %1</translation>
+    </message>
+    <message>
+        <source>Session ended: %1</source>
+        <extracomment>Spoken by screen readers; %1 is a person&apos;s name and the kind of session</extracomment>
+        <translation>Sitzung beendet: %1</translation>
     </message>
 </context>
 <context>

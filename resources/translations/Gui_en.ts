@@ -664,8 +664,12 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Reason for the restart</source>
-        <extracomment>Name of a text for screen readers</extracomment>
         <translation>Reason for the restart</translation>
+    </message>
+    <message>
+        <source>Reason for the shutdown</source>
+        <extracomment>Name of a text for screen readers</extracomment>
+        <translation>Reason for the shutdown</translation>
     </message>
 </context>
 <context>
@@ -816,6 +820,16 @@ Name of the large picture for screen readers</extracomment>
         <comment>in full</comment>
         <extracomment>Name of the button for screen readers, never shortened</extracomment>
         <translation>End session</translation>
+    </message>
+    <message>
+        <source>Session started: %1</source>
+        <extracomment>Spoken by screen readers; %1 is a person&apos;s name and the kind of session</extracomment>
+        <translation>Session started: %1</translation>
+    </message>
+    <message>
+        <source>Session ended: %1</source>
+        <extracomment>Spoken by screen readers; %1 is a person&apos;s name and the kind of session</extracomment>
+        <translation>Session ended: %1</translation>
     </message>
 </context>
 <context>

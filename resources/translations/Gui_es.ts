@@ -111,7 +111,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>You need to enroll Tavik by providing host, port and token from Device Enrollment email and pressing &quot;Enroll&quot; button.</source>
-        <translation>Para inscribir Tavik, introduzca el host, el puerto y el token del correo de inscripción del dispositivo y haga clic en el botón “Inscribir”.</translation>
+        <translation>Para inscribir Tavik, introduzca el host, el puerto y el token del correo de&#xa0;inscripción del dispositivo y haga clic en el botón “Inscribir”.</translation>
     </message>
     <message>
         <source>Tavik needs to be enrolled
@@ -665,8 +665,12 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Reason for the restart</source>
-        <extracomment>Name of a text for screen readers</extracomment>
         <translation>Motivo del reinicio</translation>
+    </message>
+    <message>
+        <source>Reason for the shutdown</source>
+        <extracomment>Name of a text for screen readers</extracomment>
+        <translation>Motivo del apagado</translation>
     </message>
 </context>
 <context>
@@ -818,6 +822,16 @@ Name of the large picture for screen readers</extracomment>
         <extracomment>Name of the button for screen readers, never shortened</extracomment>
         <translation>Finalizar sesión</translation>
     </message>
+    <message>
+        <source>Session started: %1</source>
+        <extracomment>Spoken by screen readers; %1 is a person&apos;s name and the kind of session</extracomment>
+        <translation>Ha comenzado la sesión: %1</translation>
+    </message>
+    <message>
+        <source>Session ended: %1</source>
+        <extracomment>Spoken by screen readers; %1 is a person&apos;s name and the kind of session</extracomment>
+        <translation>Ha finalizado la sesión: %1</translation>
+    </message>
 </context>
 <context>
     <name>ServiceDeskTicketDialog</name>
@@ -852,7 +866,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Include device data (brand, model, serial number, logged on user, domain/workgroup)</source>
-        <translation>Incluir datos del dispositivo (marca, modelo, número de serie, usuario conectado, dominio o grupo de trabajo)</translation>
+        <translation>Incluir datos del dispositivo (marca, modelo, número de serie, usuario conectado, dominio&#xa0;o&#xa0;grupo&#xa0;de&#xa0;trabajo)</translation>
     </message>
     <message>
         <source>Note: Company, Device Name and Owner are included by default.</source>

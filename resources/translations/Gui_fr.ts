@@ -553,19 +553,19 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Scroll left</source>
-        <translation>Défiler vers la gauche</translation>
+        <translation>Faire défiler vers la gauche</translation>
     </message>
     <message>
         <source>Scroll up</source>
-        <translation>Défiler vers le haut</translation>
+        <translation>Faire défiler vers le haut</translation>
     </message>
     <message>
         <source>Scroll right</source>
-        <translation>Défiler vers la droite</translation>
+        <translation>Faire défiler vers la droite</translation>
     </message>
     <message>
         <source>Scroll down</source>
-        <translation>Défiler vers le bas</translation>
+        <translation>Faire défiler vers le bas</translation>
     </message>
 </context>
 <context>
@@ -666,8 +666,12 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Reason for the restart</source>
-        <extracomment>Name of a text for screen readers</extracomment>
         <translation>Motif du redémarrage</translation>
+    </message>
+    <message>
+        <source>Reason for the shutdown</source>
+        <extracomment>Name of a text for screen readers</extracomment>
+        <translation>Motif de l’arrêt</translation>
     </message>
 </context>
 <context>
@@ -818,6 +822,16 @@ Name of the large picture for screen readers</extracomment>
         <comment>in full</comment>
         <extracomment>Name of the button for screen readers, never shortened</extracomment>
         <translation>Terminer la session</translation>
+    </message>
+    <message>
+        <source>Session started: %1</source>
+        <extracomment>Spoken by screen readers; %1 is a person&apos;s name and the kind of session</extracomment>
+        <translation>Session démarrée&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Session ended: %1</source>
+        <extracomment>Spoken by screen readers; %1 is a person&apos;s name and the kind of session</extracomment>
+        <translation>Session terminée&#xa0;: %1</translation>
     </message>
 </context>
 <context>

@@ -27,11 +27,11 @@
     </message>
     <message>
         <source>Support phone: </source>
-        <translation>Telefono di supporto: </translation>
+        <translation>Telefono assistenza: </translation>
     </message>
     <message>
         <source>Support email: </source>
-        <translation>E-mail di supporto: </translation>
+        <translation>E-mail assistenza: </translation>
     </message>
     <message>
         <source>All rights reserved</source>
@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>Support web-site: </source>
-        <translation>Sito web di supporto: </translation>
+        <translation>Sito web assistenza: </translation>
     </message>
     <message>
         <source>About</source>
@@ -192,8 +192,8 @@ per gestire questo dispositivo</translation>
     <message numerus="yes">
         <source>%n second(s) left to answer</source>
         <translation>
-            <numerusform>%n secondo rimanente per rispondere</numerusform>
-            <numerusform>%n secondi rimanenti per rispondere</numerusform>
+            <numerusform>Rimane %n secondo per rispondere</numerusform>
+            <numerusform>Rimangono %n secondi per rispondere</numerusform>
         </translation>
     </message>
 </context>
@@ -664,8 +664,12 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Reason for the restart</source>
-        <extracomment>Name of a text for screen readers</extracomment>
         <translation>Motivo del riavvio</translation>
+    </message>
+    <message>
+        <source>Reason for the shutdown</source>
+        <extracomment>Name of a text for screen readers</extracomment>
+        <translation>Motivo dello spegnimento</translation>
     </message>
 </context>
 <context>
@@ -817,6 +821,16 @@ Name of the large picture for screen readers</extracomment>
         <extracomment>Name of the button for screen readers, never shortened</extracomment>
         <translation>Termina sessione</translation>
     </message>
+    <message>
+        <source>Session started: %1</source>
+        <extracomment>Spoken by screen readers; %1 is a person&apos;s name and the kind of session</extracomment>
+        <translation>Sessione avviata: %1</translation>
+    </message>
+    <message>
+        <source>Session ended: %1</source>
+        <extracomment>Spoken by screen readers; %1 is a person&apos;s name and the kind of session</extracomment>
+        <translation>Sessione terminata: %1</translation>
+    </message>
 </context>
 <context>
     <name>ServiceDeskTicketDialog</name>
@@ -851,7 +865,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Include device data (brand, model, serial number, logged on user, domain/workgroup)</source>
-        <translation>Includi dati del dispositivo (marca, modello, numero di serie, utente connesso, dominio/gruppo di lavoro)</translation>
+        <translation>Includi dati del dispositivo (marca, modello, numero di serie, utente connesso, dominio&#xa0;o&#xa0;gruppo&#xa0;di&#xa0;lavoro)</translation>
     </message>
     <message>
         <source>Note: Company, Device Name and Owner are included by default.</source>

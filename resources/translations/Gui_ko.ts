@@ -663,8 +663,12 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Reason for the restart</source>
-        <extracomment>Name of a text for screen readers</extracomment>
         <translation>다시 시작해야 하는 이유</translation>
+    </message>
+    <message>
+        <source>Reason for the shutdown</source>
+        <extracomment>Name of a text for screen readers</extracomment>
+        <translation>시스템을 종료해야 하는 이유</translation>
     </message>
 </context>
 <context>
@@ -816,6 +820,16 @@ Name of the large picture for screen readers</extracomment>
         <extracomment>Name of the button for screen readers, never shortened</extracomment>
         <translation>세션 종료</translation>
     </message>
+    <message>
+        <source>Session started: %1</source>
+        <extracomment>Spoken by screen readers; %1 is a person&apos;s name and the kind of session</extracomment>
+        <translation>세션이 시작되었습니다: %1</translation>
+    </message>
+    <message>
+        <source>Session ended: %1</source>
+        <extracomment>Spoken by screen readers; %1 is a person&apos;s name and the kind of session</extracomment>
+        <translation>세션이 종료되었습니다: %1</translation>
+    </message>
 </context>
 <context>
     <name>ServiceDeskTicketDialog</name>
@@ -830,7 +844,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Please fill in the fields below and describe details of your issue:</source>
-        <translation>아래 필드를 입력하고 문제를 자세히 설명하십시오:</translation>
+        <translation>아래 항목을 작성하고 문제를 자세히 설명하십시오:</translation>
     </message>
     <message>
         <source>Issue Summary</source>

@@ -117,7 +117,7 @@ Name of the large picture for screen readers</extracomment>
         <source>Tavik needs to be enrolled
 in order to manage this device</source>
         <translation>Tavik moet worden ingeschreven
-om dit apparaat te beheren</translation>
+om dit apparaat te kunnen beheren</translation>
     </message>
     <message>
         <source>Enrollment Required</source>
@@ -275,7 +275,7 @@ woord:</translation>
     </message>
     <message>
         <source>Ostrel Custom Password</source>
-        <translation>Eigen Ostrel-wachtwoord</translation>
+        <translation>Aangepast Ostrel-wachtwoord</translation>
     </message>
     <message>
         <source>Domain:</source>
@@ -308,7 +308,7 @@ woord:</translation>
     <message>
         <source>Custom password</source>
         <extracomment>Name of a field for screen readers</extracomment>
-        <translation>Eigen wachtwoord</translation>
+        <translation>Aangepast wachtwoord</translation>
     </message>
 </context>
 <context>
@@ -665,8 +665,12 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Reason for the restart</source>
-        <extracomment>Name of a text for screen readers</extracomment>
         <translation>Reden voor het herstarten</translation>
+    </message>
+    <message>
+        <source>Reason for the shutdown</source>
+        <extracomment>Name of a text for screen readers</extracomment>
+        <translation>Reden voor het afsluiten</translation>
     </message>
 </context>
 <context>
@@ -818,6 +822,16 @@ Name of the large picture for screen readers</extracomment>
         <extracomment>Name of the button for screen readers, never shortened</extracomment>
         <translation>Sessie beëindigen</translation>
     </message>
+    <message>
+        <source>Session started: %1</source>
+        <extracomment>Spoken by screen readers; %1 is a person&apos;s name and the kind of session</extracomment>
+        <translation>Sessie gestart: %1</translation>
+    </message>
+    <message>
+        <source>Session ended: %1</source>
+        <extracomment>Spoken by screen readers; %1 is a person&apos;s name and the kind of session</extracomment>
+        <translation>Sessie beëindigd: %1</translation>
+    </message>
 </context>
 <context>
     <name>ServiceDeskTicketDialog</name>
@@ -919,12 +933,12 @@ Name of the large picture for screen readers</extracomment>
     <message>
         <source>You need to enter Zent Custom Password
 in order to continue</source>
-        <translation>U moet uw eigen Zent-wachtwoord invoeren
+        <translation>U moet het aangepaste Zent-wachtwoord invoeren
 om door te gaan</translation>
     </message>
     <message>
         <source>Please enter Zent Custom Password</source>
-        <translation>Voer uw eigen Zent-wachtwoord in</translation>
+        <translation>Voer het aangepaste Zent-wachtwoord in</translation>
     </message>
     <message>
         <source>Cancel</source>

@@ -665,8 +665,12 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Reason for the restart</source>
-        <extracomment>Name of a text for screen readers</extracomment>
         <translation>Причина перезагрузки</translation>
+    </message>
+    <message>
+        <source>Reason for the shutdown</source>
+        <extracomment>Name of a text for screen readers</extracomment>
+        <translation>Причина выключения</translation>
     </message>
 </context>
 <context>
@@ -818,6 +822,16 @@ Name of the large picture for screen readers</extracomment>
         <extracomment>Name of the button for screen readers, never shortened</extracomment>
         <translation>Завершить сеанс</translation>
     </message>
+    <message>
+        <source>Session started: %1</source>
+        <extracomment>Spoken by screen readers; %1 is a person&apos;s name and the kind of session</extracomment>
+        <translation>Сеанс начат: %1</translation>
+    </message>
+    <message>
+        <source>Session ended: %1</source>
+        <extracomment>Spoken by screen readers; %1 is a person&apos;s name and the kind of session</extracomment>
+        <translation>Сеанс завершен: %1</translation>
+    </message>
 </context>
 <context>
     <name>ServiceDeskTicketDialog</name>
@@ -852,7 +866,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Include device data (brand, model, serial number, logged on user, domain/workgroup)</source>
-        <translation>Приложить данные об устройстве (марка, модель, серийный номер, текущий пользователь, домен/рабочая группа)</translation>
+        <translation>Приложить данные об устройстве (марка, модель, серийный номер, текущий&#xa0;пользователь, домен/рабочая группа)</translation>
     </message>
     <message>
         <source>Note: Company, Device Name and Owner are included by default.</source>

@@ -205,7 +205,7 @@ Tavik’in kaydedilmesi gerekir</translation>
     <message>
         <source>Forgot username or password?</source>
         <extracomment>Text of a link</extracomment>
-        <translation>Oturum bilgilerini unuttunuz mu?</translation>
+        <translation>Oturum bilgilerinizi mi unuttunuz?</translation>
     </message>
     <message>
         <source>Login</source>
@@ -503,7 +503,7 @@ Name of the large picture for screen readers</extracomment>
     <name>QPlatformTheme</name>
     <message>
         <source>Discard</source>
-        <translation>Vazgeç</translation>
+        <translation>Değişikliklerden vazgeç</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -663,8 +663,12 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Reason for the restart</source>
-        <extracomment>Name of a text for screen readers</extracomment>
         <translation>Yeniden başlatma nedeni</translation>
+    </message>
+    <message>
+        <source>Reason for the shutdown</source>
+        <extracomment>Name of a text for screen readers</extracomment>
+        <translation>Bilgisayarı kapatma nedeni</translation>
     </message>
 </context>
 <context>
@@ -816,6 +820,16 @@ Name of the large picture for screen readers</extracomment>
         <extracomment>Name of the button for screen readers, never shortened</extracomment>
         <translation>Oturumu bitir</translation>
     </message>
+    <message>
+        <source>Session started: %1</source>
+        <extracomment>Spoken by screen readers; %1 is a person&apos;s name and the kind of session</extracomment>
+        <translation>Oturum başladı: %1</translation>
+    </message>
+    <message>
+        <source>Session ended: %1</source>
+        <extracomment>Spoken by screen readers; %1 is a person&apos;s name and the kind of session</extracomment>
+        <translation>Oturum sona erdi: %1</translation>
+    </message>
 </context>
 <context>
     <name>ServiceDeskTicketDialog</name>
@@ -850,7 +864,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Include device data (brand, model, serial number, logged on user, domain/workgroup)</source>
-        <translation>Cihaz verilerini ekle (marka, model, seri numarası, oturum açmış kullanıcı, etki alanı/çalışma grubu)</translation>
+        <translation>Cihaz verilerini ekle (marka, model, seri numarası, oturum açmış kullanıcı, etki&#xa0;alanı&#xa0;veya&#xa0;çalışma&#xa0;grubu)</translation>
     </message>
     <message>
         <source>Note: Company, Device Name and Owner are included by default.</source>

@@ -27,11 +27,11 @@
     </message>
     <message>
         <source>Support phone: </source>
-        <translation>支持电话： </translation>
+        <translation>技术支持电话： </translation>
     </message>
     <message>
         <source>Support email: </source>
-        <translation>支持电子邮件： </translation>
+        <translation>技术支持电子邮件： </translation>
     </message>
     <message>
         <source>All rights reserved</source>
@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>Support web-site: </source>
-        <translation>支持网站： </translation>
+        <translation>技术支持网站： </translation>
     </message>
     <message>
         <source>About</source>
@@ -111,7 +111,8 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>You need to enroll Tavik by providing host, port and token from Device Enrollment email and pressing &quot;Enroll&quot; button.</source>
-        <translation>您需要注册 Tavik：请输入“设备注册”电子邮件中的主机、端口和令牌，然后单击“注册”按钮。</translation>
+        <translation>您需要注册 Tavik：请输入“设备注册”电子邮件中的主机、端口和令牌，
+然后单击“注册”按钮。</translation>
     </message>
     <message>
         <source>Tavik needs to be enrolled
@@ -663,8 +664,12 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Reason for the restart</source>
-        <extracomment>Name of a text for screen readers</extracomment>
         <translation>重新启动的原因</translation>
+    </message>
+    <message>
+        <source>Reason for the shutdown</source>
+        <extracomment>Name of a text for screen readers</extracomment>
+        <translation>关机的原因</translation>
     </message>
 </context>
 <context>
@@ -816,6 +821,16 @@ Name of the large picture for screen readers</extracomment>
         <extracomment>Name of the button for screen readers, never shortened</extracomment>
         <translation>结束会话</translation>
     </message>
+    <message>
+        <source>Session started: %1</source>
+        <extracomment>Spoken by screen readers; %1 is a person&apos;s name and the kind of session</extracomment>
+        <translation>会话已开始：%1</translation>
+    </message>
+    <message>
+        <source>Session ended: %1</source>
+        <extracomment>Spoken by screen readers; %1 is a person&apos;s name and the kind of session</extracomment>
+        <translation>会话已结束：%1</translation>
+    </message>
 </context>
 <context>
     <name>ServiceDeskTicketDialog</name>
@@ -850,7 +865,7 @@ Name of the large picture for screen readers</extracomment>
     </message>
     <message>
         <source>Include device data (brand, model, serial number, logged on user, domain/workgroup)</source>
-        <translation>包括设备数据（品牌、型号、序列号、当前登录的用户、域/工作组）</translation>
+        <translation>包含设备数据（品牌、型号、序列号、当前登录的用户、域/工作组）</translation>
     </message>
     <message>
         <source>Note: Company, Device Name and Owner are included by default.</source>

@@ -83,7 +83,10 @@ int main(int argc, char** argv)
         QTextStream(stderr) << loader.errorString() << '\n';
         return 2;
     }
-    gui->setRatio(static_cast<float>(QGuiApplication::primaryScreen()->logicalDotsPerInch() / 96.0));
+    // Where Qt itself scales what it draws, the dialogs must not be scaled a second time.
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    if (qFuzzyCompare(screen->devicePixelRatio(), 1.0))
+        gui->setRatio(static_cast<float>(screen->logicalDotsPerInch() / 96.0));
 
     Agent agent(*gui);
     agent.start();

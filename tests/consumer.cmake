@@ -3,7 +3,7 @@
 set(install_dir "${WORK_DIR}/library")
 file(REMOVE_RECURSE "${WORK_DIR}")
 
-include("${CMAKE_CURRENT_LIST_DIR}/../support/run.cmake")
+include("${CMAKE_CURRENT_LIST_DIR}/support/run.cmake")
 
 run(${CMAKE_COMMAND} --install "${BINARY_DIR}" --prefix "${WORK_DIR}/staged" --config "${CONFIG}")
 file(RENAME "${WORK_DIR}/staged" "${install_dir}")
