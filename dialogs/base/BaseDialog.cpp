@@ -97,6 +97,7 @@ void BaseDialog::setRatio(float ratio)
 
 void BaseDialog::setVisible(bool visible)
 {
+    // Not in the show event: on X11 Qt would not know where a window is that was moved there.
     if (visible && !isVisible())
         moveIntoReach();
     QDialog::setVisible(visible);
