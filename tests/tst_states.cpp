@@ -25,7 +25,7 @@
 #include <cmath>
 
 namespace {
-const QDir references(QStringLiteral(REFERENCES));
+const QDir references(QStringLiteral(REFERENCES "/") + qEnvironmentVariable("GUI_TEST_PICTURES"));
 constexpr int tileSide = 8;
 constexpr int tolerance = 28; // of 255, in any channel of a tile's mean
 
@@ -260,6 +260,9 @@ private Q_SLOTS:
         QStringList changed;
         QStringList rendered;
         play([&](QWidget&, const QFileInfo& file) {
+            // On fine screens some states are enough.
+            if (qEnvironmentVariableIsSet("GUI_TEST_PICTURES") && !references.exists(file.fileName()))
+                return;
             rendered << file.fileName();
             const QImage picture(file.filePath());
             if (isRenewing())
