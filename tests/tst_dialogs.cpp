@@ -234,8 +234,7 @@ private Q_SLOTS:
         }
         list.setCurrentIndex(-1);
         QCOMPARE(dialog->getPostponePeriod(), 0);
-        QTest::sendKeyEvent(QTest::Click, &list, Qt::Key_Cancel, QString(), Qt::NoModifier);
-        QVERIFY(takeEvents().isEmpty() && window(dialog).isVisible());
+        QVERIFY(takeEvents().isEmpty());
     }
 
     void rebootReason()
