@@ -2,7 +2,7 @@
 
 #include <QFile>
 
-void prepareSurroundings(const QString& language)
+void prepareSurroundings(const QString& language, float ratio)
 {
     // An installed program may be far from the sources; it takes the machine's fonts.
     if (QFile::exists(QStringLiteral(FONTS)))
@@ -11,6 +11,7 @@ void prepareSurroundings(const QString& language)
     if (!fontLanguage.isEmpty())
         qputenv("FC_LANG", fontLanguage.left(2));
     // The offscreen platform takes 100 dpi by itself.
-    if (qgetenv("QT_QPA_PLATFORM").startsWith("offscreen") && qEnvironmentVariableIsEmpty("QT_FONT_DPI"))
-        qputenv("QT_FONT_DPI", "96");
+    const bool hasOwnResolution = !qgetenv("QT_QPA_PLATFORM").startsWith("offscreen") && ratio == 1.0F;
+    if (!hasOwnResolution && qEnvironmentVariableIsEmpty("QT_FONT_DPI"))
+        qputenv("QT_FONT_DPI", QByteArray::number(96.0 * static_cast<double>(ratio), 'f', 0));
 }

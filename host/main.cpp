@@ -93,8 +93,9 @@ void addOptions(QCommandLineParser& parser)
          QStringLiteral("Language of the dialogs (not on Windows): %1. \"pseudo\" is longer, accented English.")
              .arg(languages().join(QLatin1Char(' '))),
          QStringLiteral("code")},
-        {QStringLiteral("ratio"), QStringLiteral("Scale factor of the dialogs."), QStringLiteral("number"),
-         QStringLiteral("1")},
+        {QStringLiteral("ratio"),
+         QStringLiteral("Scale factor of the dialogs and, unless QT_FONT_DPI is set, of 96 dpi."),
+         QStringLiteral("number"), QStringLiteral("1")},
         {QStringLiteral("dialog"), QStringLiteral("The only dialog to render."), QStringLiteral("name")},
         {QStringLiteral("pictures"), QStringLiteral("Where a script's pictures go."), QStringLiteral("directory"),
          QStringLiteral(".")},
@@ -141,7 +142,8 @@ int main(int argc, char** argv)
     const QString language = parser.value(QStringLiteral("language"));
     const bool isPseudo = language == QLatin1String("pseudo");
     useOffscreenWithoutDisplay();
-    prepareSurroundings(isPseudo ? QString() : language);
+    const float ratio = parser.value(QStringLiteral("ratio")).toFloat();
+    prepareSurroundings(isPseudo ? QString() : language, ratio);
 
     QApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("guihost"));
@@ -165,7 +167,7 @@ int main(int argc, char** argv)
     auto* gui = qobject_cast<GuiInterface*>(loader.instance());
     if (!gui)
         return complain(QStringLiteral("cannot load %1: %2").arg(library, loader.errorString()), Failure);
-    gui->setRatio(parser.value(QStringLiteral("ratio")).toFloat());
+    gui->setRatio(ratio);
     PseudoTranslator pseudoTranslator;
     if (isPseudo)
         QCoreApplication::installTranslator(&pseudoTranslator);

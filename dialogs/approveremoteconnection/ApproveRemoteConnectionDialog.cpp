@@ -2,6 +2,7 @@
 
 #include "Announcement.h"
 #include "DisplayText.h"
+#include "Scaling.h"
 #include "ui_ApproveRemoteConnectionDialog.h"
 
 #include <QApplication>
@@ -211,7 +212,7 @@ void ApproveRemoteConnectionDialog::setupWindow()
 void ApproveRemoteConnectionDialog::scaleBy(float ratio)
 {
     const QPoint topLeft = topLeftAtRatio(ratio);
-    scaleSizeLimits(this, ratio);
+    scalePixels(this, ratio, fullRatio());
     move(topLeft);
 }
 

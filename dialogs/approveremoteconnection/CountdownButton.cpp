@@ -18,6 +18,7 @@ bool CountdownButton::event(QEvent* event)
 
 QSize CountdownButton::sizeHint() const
 {
-    // In the style sheet a focused button has smaller paddings, which would cut the text.
-    return QPushButton::sizeHint().expandedTo({fontMetrics().horizontalAdvance(text()) + 28, 0});
+    // In the style sheet a focused button has smaller paddings, which would cut the text. The minimum height is scaled
+    // with the dialog, so the room beside the text is too.
+    return QPushButton::sizeHint().expandedTo({fontMetrics().horizontalAdvance(text()) + minimumHeight(), 0});
 }

@@ -4,6 +4,7 @@
 #include "BrandingStrings.h"
 #include "DisplayText.h"
 #include "ElidedLabel.h"
+#include "Scaling.h"
 #include "TextAccessible.h"
 
 #include <QAbstractButton>
@@ -86,11 +87,20 @@ void BaseDialog::setRatio(float ratio)
 {
     if (!std::isfinite(ratio) || ratio <= 0.0F)
         return;
-    const int longest = qMax(width(), height());
-    if (longest > 0)
-        ratio = qMin(ratio, static_cast<float>(longestSide) / static_cast<float>(longest));
-    if (ratio != 1.0F)
-        scaleBy(ratio);
+    const int longest = qMax(1, qMax(width(), height()));
+    ratio = qMin(ratio, static_cast<float>(longestSide) / static_cast<float>(longest));
+    if (ratio == 1.0F)
+        return;
+    scaledSoFar = qMin(scaledSoFar * ratio, static_cast<float>(longestSide));
+    scaleBy(ratio);
+}
+
+void BaseDialog::setVisible(bool visible)
+{
+    // Not in the show event: on X11 Qt would not know where a window is that was moved there.
+    if (visible && !isVisible())
+        moveIntoReach();
+    QDialog::setVisible(visible);
 }
 
 void BaseDialog::mousePressEvent(QMouseEvent* event)
@@ -149,12 +159,17 @@ void BaseDialog::moveToScreenCenter()
     move(frame.topLeft());
 }
 
-void BaseDialog::setCaption(QLabel* prefixLabel, QLabel* titleLabel, const QString& title)
+void BaseDialog::showCaptionPrefix(QLabel* prefixLabel)
 {
     prefixLabel->setTextFormat(Qt::PlainText);
     prefixLabel->setText(captionPrefix);
     if (prefixLabel->sizeHint().width() > prefixLabel->width())
         prefixLabel->setToolTip(literalToolTip(captionPrefix.trimmed()));
+}
+
+void BaseDialog::setCaption(QLabel* prefixLabel, QLabel* titleLabel, const QString& title)
+{
+    showCaptionPrefix(prefixLabel);
     setTitle(title);
     if (!titleLabel)
         return;
@@ -172,19 +187,41 @@ void BaseDialog::setTitle(const QString& title)
 
 void BaseDialog::scaleBy(float ratio)
 {
+    // New size limits and style sheets may move and resize widgets, so all places are computed before.
+    const QPoint topLeft = topLeftAtRatio(ratio);
+    const QSize newSize = scaled(size(), ratio);
+    QVector<QPair<QWidget*, QRect>> places;
     const QList<QWidget*> children = findChildren<QWidget*>();
-    move(topLeftAtRatio(ratio));
-    resize(scaled(size(), ratio));
-    for (QWidget* child : children) {
-        child->resize(scaled(child->size(), ratio));
-        child->move(scaled(child->pos(), ratio));
+    for (QWidget* child : children)
+        places.append(qMakePair(child, QRect(scaled(child->pos(), ratio), scaled(child->size(), ratio))));
+
+    scalePixels(this, ratio, fullRatio());
+    move(topLeft);
+    resize(newSize);
+    for (const auto& place : qAsConst(places)) {
+        place.first->resize(place.second.size());
+        place.first->move(place.second.topLeft());
     }
+}
+
+float BaseDialog::fullRatio() const
+{
+    return scaledSoFar;
 }
 
 QPoint BaseDialog::topLeftAtRatio(float ratio) const
 {
     const float growth = ratio - 1.0F;
     return {truncated(x() - width() * growth * 0.5F), truncated(y() - height() * growth * 0.5F)};
+}
+
+void BaseDialog::moveIntoReach()
+{
+    const QRect frame = frameGeometry();
+    const QScreen* screen = QGuiApplication::screenAt(frame.center());
+    const QRect area = (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry();
+    if (frame.width() > area.width() || frame.height() > area.height())
+        move(qMax(frame.x(), area.x()), qMax(frame.y(), area.y()));
 }
 
 QWidget* BaseDialog::startWidget()
@@ -218,19 +255,4 @@ void BaseDialog::startAfresh()
     start->setFocus(Qt::OtherFocusReason);
     if (auto* field = qobject_cast<QLineEdit*>(start))
         field->selectAll();
-}
-
-void BaseDialog::scaleSizeLimits(QWidget* root, float ratio)
-{
-    QList<QWidget*> widgets = root->findChildren<QWidget*>();
-    widgets.append(root);
-    for (QWidget* widget : qAsConst(widgets)) {
-        const QSize maximum = widget->maximumSize();
-        widget->setMinimumSize(scaled(widget->minimumSize(), ratio));
-        widget->setMaximumSize(maximum.width() < QWIDGETSIZE_MAX ? truncated(maximum.width() * ratio) : QWIDGETSIZE_MAX,
-                               maximum.height() < QWIDGETSIZE_MAX ? truncated(maximum.height() * ratio)
-                                                                  : QWIDGETSIZE_MAX);
-        if (QLayout* layout = widget->layout())
-            layout->setContentsMargins(layout->contentsMargins() * ratio);
-    }
 }

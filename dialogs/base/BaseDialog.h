@@ -32,6 +32,7 @@ public:
     void done(int result) override;
     int exec() override;
     void setRatio(float ratio) override;
+    void setVisible(bool visible) override;
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
@@ -45,6 +46,8 @@ protected:
     virtual void setupWindow();
     /// Centres the window on the primary screen, task bars left out.
     virtual void moveToScreenCenter();
+    /// Shows the agent's name in a caption, with a tool tip when there is no room for all of it.
+    static void showCaptionPrefix(QLabel* prefixLabel);
     /// Fills the labels of a caption, @p titleLabel where there is one, and the window title.
     virtual void setCaption(QLabel* prefixLabel, QLabel* titleLabel, const QString& title);
     /// Sets window title and tool tip.
@@ -53,19 +56,19 @@ protected:
     /// Scales the window about its centre, and all widgets in it. setRatio() has checked @p ratio and calls this only
     /// when there is something to change.
     virtual void scaleBy(float ratio);
+    /// How much larger the dialog is than its form has it.
+    float fullRatio() const;
+    /// Where the dialog's top-left corner goes when it is scaled about its centre.
+    QPoint topLeftAtRatio(float ratio) const;
+    /// Called before the host shows the dialog. Brings the top and left edges of a dialog that is larger than the
+    /// screen onto it: the caption is there then, and by dragging all the rest can be reached.
+    virtual void moveIntoReach();
     /// The widget that has the focus whenever the host shows the dialog. In a line edit all text is selected then. By
     /// default, and when that widget is disabled, the dialog itself: Return and Enter mean accept() there, and no
     /// button takes a key that the person was typing into another window.
     virtual QWidget* startWidget();
     /// The first of @p fields that is empty, @p otherwise when none is.
     static QLineEdit* firstEmpty(std::initializer_list<QLineEdit*> fields, QLineEdit* otherwise);
-
-    // For dialogs whose layouts place the widgets and which therefore scale limits instead of geometries.
-
-    /// Where the dialog's top-left corner goes when it is scaled about its centre.
-    QPoint topLeftAtRatio(float ratio) const;
-    /// Scales the size limits and layout margins of @p root and all widgets in it.
-    static void scaleSizeLimits(QWidget* root, float ratio);
 
 private:
     Q_DISABLE_COPY(BaseDialog)
@@ -75,4 +78,5 @@ private:
 
     /// Where in the dialog the mouse went down; (0, 0) while nothing is dragged.
     QPoint dragPosition;
+    float scaledSoFar = 1.0F;
 };

@@ -1,6 +1,7 @@
 #include "RebootDialog.h"
 
 #include "DisplayText.h"
+#include "WheelGuard.h"
 #include "ui_RebootDialog.h"
 
 #include <QCloseEvent>
@@ -39,7 +40,8 @@ RebootDialog::RebootDialog(QWidget* parent) : BaseDialog(parent), ui(std::make_u
     setWindowFlag(Qt::WindowStaysOnTopHint);
     ui->setupUi(this);
     moveToScreenCenter();
-    ui->lblAppName->setText(captionPrefix);
+    showCaptionPrefix(ui->lblAppName);
+    new WheelGuard(ui->timeoutComboBox);
 
     auto* document = new InertDocument(ui->rebootReasonLabel);
     document->setUndoRedoEnabled(false);

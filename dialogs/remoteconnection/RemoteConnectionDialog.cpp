@@ -200,22 +200,23 @@ int RemoteConnectionDialog::remoteToolsValue() const
 void RemoteConnectionDialog::scaleBy(float newRatio)
 {
     const QPoint topLeft = topLeftAtRatio(newRatio);
-    fullRatio *= newRatio;
     for (QWidget* part : {static_cast<QWidget*>(ui->header), static_cast<QWidget*>(ui->fileTransportPanel)})
-        scalePixels(part, newRatio, fullRatio);
+        scalePixels(part, newRatio, fullRatio());
     // An icon is never drawn larger than its picture.
     QPixmap cross(QStringLiteral(":/images/close_status_window@2x.png"));
     cross.setDevicePixelRatio(1);
     ui->closeButton->setIcon(cross.scaled(ui->closeButton->iconSize(), Qt::KeepAspectRatio, Qt::SmoothTransformation));
     for (TakeoverPanel* panel : qAsConst(panels))
-        panel->scaleBy(newRatio, fullRatio);
+        panel->scaleBy(newRatio, fullRatio());
     showToolsUserName();
-    logDelegate->setRatio(fullRatio);
+    logDelegate->setRatio(fullRatio());
     if (!corner->isSet())
         move(topLeft);
     corner->resize(fittingSize());
     fitLogToWindow();
 }
+
+void RemoteConnectionDialog::moveIntoReach() { }
 
 void RemoteConnectionDialog::setVisible(bool visible)
 {
@@ -287,7 +288,7 @@ TakeoverPanel* RemoteConnectionDialog::createPanel(const QString& sessionId)
     auto* panel = new TakeoverPanel(this);
     panel->hide();
     panel->setProperty(sessionIdProperty, sessionId);
-    panel->scaleBy(fullRatio, fullRatio);
+    panel->scaleBy(fullRatio(), fullRatio());
     connect(panel, &TakeoverPanel::endRemoteControlSession, this, &RemoteConnectionDialog::onEndRemoteControlSession);
     connect(panel, &TakeoverPanel::closeRemoteControlPopup, this, &RemoteConnectionDialog::onCloseRemoteControlPopup);
     ui->verticalLayout->insertWidget(1, panel);
@@ -473,6 +474,6 @@ void RemoteConnectionDialog::fitLogToWindow()
     const QMargins margins = ui->logsListLayout->contentsMargins();
     const int listWidth = width() - margins.left() - margins.right();
     // Part of every path stays legible, however narrow the window.
-    const int pathWidth = qMax(width() / 3, qRound(178 * fullRatio));
+    const int pathWidth = qMax(width() / 3, qRound(178 * fullRatio()));
     logModel->setRowDisplay(ui->logsListView->font(), ui->logsListView->textWidth(listWidth), pathWidth);
 }

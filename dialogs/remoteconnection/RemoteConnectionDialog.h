@@ -72,6 +72,8 @@ protected:
     void setupWindow() override;
     /// Scales the panels that come later too.
     void scaleBy(float newRatio) override;
+    /// Nothing: the window's corner keeps the header on the screen.
+    void moveIntoReach() override;
 
 private:
     TakeoverPanel* createPanel(const QString& sessionId);
@@ -116,7 +118,6 @@ private:
     /// What the next layout shows and hides.
     QVector<QPair<QPointer<QWidget>, bool>> partsToChange;
     bool isLayoutScheduled = false;
-    float fullRatio = 1.0F;
 
     QTimer updateTimer{this};
     LogsListModel* const logModel;

@@ -3,11 +3,13 @@
 #include "GuiTest.h"
 #include "IBaseDialog.h"
 
-#include <QDir>
+#include <QDebug>
+#include <QDirIterator>
+#include <QImage>
 #include <QJsonDocument>
 #include <QMetaMethod>
 #include <QPluginLoader>
-#include <QProcess>
+#include <QScreen>
 #include <QTextStream>
 
 #include <algorithm>
@@ -53,14 +55,27 @@ void describePlugin(QTextStream& out, const QString& path)
         out << "    " << key << ' ' << data.value(QLatin1String(key)).toString() << '\n';
     const QJsonDocument custom(data.value(QLatin1String("MetaData")).toObject());
     out << "    MetaData " << custom.toJson(QJsonDocument::Compact) << '\n';
+}
 
-    QProcess nm;
-    nm.start(QStringLiteral(NM),
-             {QStringLiteral("--dynamic"), QStringLiteral("--defined-only"), QStringLiteral("--format=posix"), path});
-    if (!nm.waitForFinished() || nm.exitCode() != 0)
-        qFatal("cannot list the symbols of %s", qPrintable(path));
-    for (const QByteArray& symbol : nm.readAllStandardOutput().trimmed().split('\n'))
-        out << "    exports " << symbol.left(symbol.indexOf(' ')) << '\n';
+/// The files inside the library: pictures with their sizes, the style sheet with its line ends.
+void describeResources(QTextStream& out)
+{
+    out << "\nresources\n";
+    QStringList names;
+    for (QDirIterator files(QStringLiteral(":/"), QDir::Files, QDirIterator::Subdirectories); files.hasNext();)
+        names << files.next();
+    names.sort();
+    // Qt's own.
+    for (const QString& name : names.filter(QRegularExpression(QStringLiteral("^:/(?!qt-project.org)")))) {
+        const QSize size = QImage(name).size();
+        out << "    " << name;
+        if (!size.isEmpty())
+            out << ' ' << size.width() << 'x' << size.height();
+        QFile file(name);
+        if (name.endsWith(QLatin1String(".qss")) && file.open(QIODevice::ReadOnly))
+            out << (file.readAll().contains("\r\n") ? " CRLF" : " LF");
+        out << '\n';
+    }
 }
 
 /// Base classes, signals and slots in their order.
@@ -102,17 +117,33 @@ void describeChildren(QTextStream& out, const QObject& parent, const QString& in
     }
 }
 
+/// What the window of a dialog is before the host has set anything.
+void describeWindow(QTextStream& out, const QWidget& window, const QJsonObject& values)
+{
+    QString flags;
+    QDebug(&flags) << window.windowFlags() << window.windowModality();
+    const QPoint center = QGuiApplication::primaryScreen()->availableGeometry().center();
+    const bool isCentered = (window.frameGeometry().center() - center).manhattanLength() <= 2;
+    // The copyright names the year in which the library was built.
+    QString first = QString::fromUtf8(QJsonDocument(values).toJson(QJsonDocument::Compact));
+    first.replace(QRegularExpression(QStringLiteral("\\b20\\d\\d\\b")), QStringLiteral("YEAR"));
+    out << "    title \"" << window.windowTitle() << "\"\n    window " << flags
+        << (isCentered ? "centered" : "not centered") << "\n    values " << first << '\n';
+}
+
 void describeDialogs(QTextStream& out, GuiInterface& gui)
 {
     QMap<QByteArray, const QMetaObject*> classes;
     for (const Family& family : dialogFamilies()) {
         IBaseDialog* dialog = family.get(gui, QString());
+        const QJsonObject values = family.values(*dialog);
         if (family.name == QLatin1String("RemoteConnectionDialog"))
             family.operation(QStringLiteral("addRemoteControlSession"))
                 .call(*dialog, {QStringLiteral("id"), QStringLiteral("name"), 0, true});
-        const auto& object = dynamic_cast<const QObject&>(*dialog);
-        describeClass(out, *object.metaObject());
-        describeChildren(out, object, QStringLiteral("    "), classes);
+        const auto& window = dynamic_cast<const QWidget&>(*dialog);
+        describeClass(out, *window.metaObject());
+        describeWindow(out, window, values);
+        describeChildren(out, window, QStringLiteral("    "), classes);
     }
     for (const QMetaObject* metaObject : qAsConst(classes))
         describeClass(out, *metaObject);
@@ -133,6 +164,7 @@ int main(int argc, char** argv)
 
     QTextStream out(&file);
     describePlugin(out, arguments.at(1));
+    describeResources(out);
     const QDir headers(arguments.at(2));
     for (const QString& name : headers.entryList({QStringLiteral("*.h")}, QDir::Files, QDir::Name))
         describeHeader(out, headers.filePath(name));
