@@ -268,13 +268,15 @@ void ApproveRemoteConnectionDialog::moveOffOtherPrompts()
             return qAbs(offset.y()) < step && offset.x() > -step && offset.x() < width() / 2;
         });
     };
+    // Scaled about its centre, the prompt may have its title bar above a small screen.
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    move(qMax(x(), screen.left()), qMax(y(), screen.top()));
     if (isFree(pos()))
         return;
 
     // Each further prompt stands a step below and right of the one before. Past an edge of the screen the cascade goes
     // on at the opposite one; when it has been through all rows, it starts again one step to the left. One row is left
     // out for the frame, which is not known before the first show.
-    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
     const int columns = qMax(1, (screen.width() - width()) / step);
     const int rows = qMax(1, (screen.height() - height()) / step - 1);
     const QPoint start = pos() - screen.topLeft();
