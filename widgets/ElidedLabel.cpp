@@ -23,9 +23,10 @@ void ElidedLabel::paintEvent(QPaintEvent*)
         const int textWidth = neighbour->sizeHint().width();
         const bool isRightAligned = neighbour->alignment().testFlag(Qt::AlignRight);
         const int textStart = isRightAligned ? neighbour->geometry().right() - textWidth : neighbour->x();
+        const int farthest = textStart - fontMetrics().horizontalAdvance(QLatin1Char(' ')) - x();
         const int nameEnd = area.center().x() + fontMetrics().horizontalAdvance(text()) / 2;
-        if (x() + nameEnd > textStart)
-            area.setRight(qMin(area.right(), textStart - x()));
+        if (nameEnd > farthest)
+            area.setRight(qMin(area.right(), farthest));
     }
     const QString line = elidedWithVisibleControls(text(), fontMetrics(), Qt::ElideMiddle, area.width());
     // Otherwise a right-to-left text would stand at the far end.

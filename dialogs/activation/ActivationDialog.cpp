@@ -25,6 +25,13 @@ int portNumber(const QString& text)
     const int port = text == text.trimmed() ? text.toInt() : 0;
     return port >= 1 && port <= highestPort ? port : 0;
 }
+
+/// Replaces the text of @p edit as typing would. setText() would leave nothing to undo.
+void enter(const QString& text, QLineEdit* edit)
+{
+    edit->selectAll();
+    edit->insert(text);
+}
 } // namespace
 
 ActivationDialog::ActivationDialog(QWidget* parent) : BaseDialog(parent), ui(std::make_unique<Ui::ActivationDialog>())
@@ -130,7 +137,7 @@ void ActivationDialog::takeLink(const QString& text)
     const auto link = findEnrollmentLink(text);
     if (!link)
         return;
-    ui->edHost->setText(link->host);
-    ui->edPort->setText(link->port);
-    ui->edToken->setText(link->token);
+    enter(link->host, ui->edHost);
+    enter(link->port, ui->edPort);
+    enter(link->token, ui->edToken);
 }
