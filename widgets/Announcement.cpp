@@ -10,15 +10,6 @@ namespace {
 /// A screen reader asks for the text after it has been told that there is one, perhaps after what it is saying.
 constexpr int lifetimeMsecs = 60'000;
 
-class Announcement final : public QObject {
-    Q_OBJECT
-
-public:
-    Announcement(QWidget* window, const QString& spokenText) : QObject(window), text(spokenText) { }
-
-    const QString text;
-};
-
 class AnnouncementAccessible final : public QAccessibleObject {
 public:
     explicit AnnouncementAccessible(Announcement* spoken) : QAccessibleObject(spoken), announcement(spoken) { }
@@ -63,6 +54,8 @@ private:
 };
 } // namespace
 
+Announcement::Announcement(QWidget* window, const QString& spokenText) : QObject(window), text(spokenText) { }
+
 void announce(QWidget* window, const QString& text)
 {
     if (!QAccessible::isActive())
@@ -76,5 +69,3 @@ void announce(QWidget* window, const QString& text)
         QAccessible::updateAccessibility(&event);
     }
 }
-
-#include "Announcement.moc"
