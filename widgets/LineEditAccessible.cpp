@@ -229,18 +229,17 @@ void send(QAccessibleEvent* event)
 void sendMasked(QAccessibleEvent* event)
 {
     auto* edit = qobject_cast<LineEdit*>(event->object());
-    if (!edit || !edit->isSecret()) {
-        send(event);
-    } else if (event->type() == QAccessible::TextInserted) {
+    const bool isSecret = edit && edit->isSecret();
+    if (isSecret && event->type() == QAccessible::TextInserted) {
         const auto* insertion = static_cast<QAccessibleTextInsertEvent*>(event);
         QAccessibleTextInsertEvent told(edit, insertion->changePosition(),
                                         masked(edit, insertion->textInserted().size()));
         send(&told);
-    } else if (event->type() == QAccessible::TextRemoved) {
+    } else if (isSecret && event->type() == QAccessible::TextRemoved) {
         const auto* removal = static_cast<QAccessibleTextRemoveEvent*>(event);
         QAccessibleTextRemoveEvent told(edit, removal->changePosition(), masked(edit, removal->textRemoved().size()));
         send(&told);
-    } else if (event->type() == QAccessible::TextUpdated) {
+    } else if (isSecret && event->type() == QAccessible::TextUpdated) {
         const auto* update = static_cast<QAccessibleTextUpdateEvent*>(event);
         // A password field sets its text again after each edit, to lose its history.
         if (update->textRemoved() == update->textInserted())
