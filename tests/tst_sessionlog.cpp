@@ -209,11 +209,6 @@ private Q_SLOTS:
         QTest::keyClick(view, Qt::Key_End);
         QTest::keyClick(view, Qt::Key_Home, Qt::ShiftModifier);
         QCOMPARE(selected(), 1000);
-        QTest::keyClick(view, Qt::Key_Home);
-        QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, rowRect(3).center());
-        QCOMPARE(view->currentIndex().row(), 3);
-        QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::ShiftModifier, rowRect(1).center());
-        QCOMPARE(selected(), 3);
     }
 
     void readersStayWhereTheyAre()
