@@ -51,8 +51,7 @@ private Q_SLOTS:
         int start = 0;
         int end = 0;
         for (int offset = -1; offset <= edit.text().size(); ++offset) {
-            for (int boundary = QAccessible::CharBoundary; boundary <= QAccessible::NoBoundary; ++boundary) {
-                const auto type = static_cast<QAccessible::TextBoundaryType>(boundary);
+            for (const auto type : {QAccessible::CharBoundary, QAccessible::WordBoundary, QAccessible::NoBoundary}) {
                 told->textBeforeOffset(offset, type, &start, &end);
                 told->textAfterOffset(offset, type, &start, &end);
                 const QString found = told->textAtOffset(offset, type, &start, &end);

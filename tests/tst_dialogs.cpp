@@ -253,14 +253,9 @@ private Q_SLOTS:
                        Qt::NoScrollPhase, false);
         QApplication::sendEvent(&port, &up);
         QVERIFY(dialog->getProxyPort() == 65535 - 1 && !port.hasFocus());
-        port.setFocus();
         port.selectAll();
-        QTest::keyClicks(&port, QStringLiteral("99999"));
+        QTest::keyClicks(&port, QStringLiteral("-x99999"));
         QCOMPARE(dialog->getProxyPort(), 9999);
-        port.selectAll();
-        QTest::keyClicks(&port, QStringLiteral("-x0"));
-        press(dialog, Qt::Key_Tab);
-        QVERIFY(dialog->getProxyPort() >= 1);
     }
 
     void hiddenParts()

@@ -1,11 +1,9 @@
 #include "GuiTest.h"
 
-#include <QClipboard>
 #include <QFile>
 #include <QLabel>
 #include <QListView>
 #include <QLockFile>
-#include <QMimeData>
 #include <QTemporaryDir>
 #include <QTextDocument>
 #include <QTextDocumentFragment>
@@ -266,30 +264,6 @@ private Q_SLOTS:
             QVERIFY2(taken <= 20 * usual + 1000,
                      qPrintable(u"%1 takes %2 ms, usual are %3 ms"_s.arg(piece).arg(taken).arg(usual)));
         }
-    }
-
-    void pasting()
-    {
-        for (const Family& family : dialogFamilies()) {
-            IBaseDialog* dialog = get(family.name, id);
-            dialog->show();
-            const QList<QWidget*> widgets = window(dialog).findChildren<QWidget*>();
-            for (const QString& text : corpus) {
-                auto* content = new QMimeData;
-                content->setText(text);
-                content->setHtml(u"<html>%1<img src=\"file://BAIT\"></html>"_s.arg(text));
-                QGuiApplication::clipboard()->setMimeData(content);
-                for (QWidget* widget : widgets) {
-                    if (widget->inherits("QLineEdit") || widget->inherits("QTextEdit"))
-                        QMetaObject::invokeMethod(widget, "paste");
-                    QVERIFY2(!widget->property("html").toString().contains(u"<img"_s), qPrintable(text));
-                }
-                look(window(dialog));
-                QVERIFY2(!takeOpened(), qPrintable(text));
-            }
-        }
-        // Pasting is no answer; the prompt's countdown just ends.
-        QVERIFY(takeEvents().filter(QRegularExpression(u"^(?!evTimeout)"_s)).isEmpty());
     }
 
     void branding()

@@ -200,15 +200,12 @@ private Q_SLOTS:
             QCOMPARE(view->currentIndex().row(), step.second);
             QVERIFY(view->viewport()->rect().contains(rowRect(step.second).center()));
         }
-        const auto selected = [this] { return view->selectionModel()->selectedIndexes().size(); };
-        const QPair<Qt::Key, int> selections[] = {{Qt::Key_Down, 2}, {Qt::Key_Down, 3}, {Qt::Key_Up, 2}};
+        const QPair<Qt::Key, int> selections[] = {
+            {Qt::Key_Down, 2}, {Qt::Key_Down, 3}, {Qt::Key_Up, 2}, {Qt::Key_End, 1000}};
         for (const auto& step : selections) {
             QTest::keyClick(view, step.first, Qt::ShiftModifier);
-            QCOMPARE(selected(), step.second);
+            QCOMPARE(view->selectionModel()->selectedIndexes().size(), step.second);
         }
-        QTest::keyClick(view, Qt::Key_End);
-        QTest::keyClick(view, Qt::Key_Home, Qt::ShiftModifier);
-        QCOMPARE(selected(), 1000);
     }
 
     void readersStayWhereTheyAre()

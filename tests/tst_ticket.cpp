@@ -1,6 +1,8 @@
 #include "GuiTest.h"
 
+#include <QClipboard>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QPointer>
 #include <QPushButton>
 #include <QTextEdit>
@@ -123,6 +125,19 @@ private Q_SLOTS:
         QVERIFY(dialog->isIncludeDeviceData());
         click(dialog, "lbIncludeDeviceDataText");
         QVERIFY(!dialog->isIncludeDeviceData());
+    }
+
+    void detailsArePlainText()
+    {
+        auto* dialog = show<IServiceDeskTicketDialog>();
+        auto& details = child<QTextEdit>(dialog, "txIssueDetails");
+        auto* content = new QMimeData;
+        content->setText(QStringLiteral("<b>"));
+        content->setHtml(QStringLiteral("<b>x</b><img src='x.png'>"));
+        QGuiApplication::clipboard()->setMimeData(content);
+        details.paste();
+        QCOMPARE(dialog->getIssueDetails(), QStringLiteral("<b>"));
+        QVERIFY(!details.toHtml().contains(QLatin1String("<img")));
     }
 
     void limits_data()
