@@ -82,17 +82,18 @@ private Q_SLOTS:
         QTRY_COMPARE(complete.count(), 1);
         QCOMPARE(steps.join(QLatin1Char(' ')),
                  QStringLiteral("0% 10% 20% 0% 10% 20% 30% 40% 50% 60% 70% 80% 90% 100%"));
-        const auto timers = window(current).findChildren<QTimer*>();
-        const auto waiter = std::find_if(timers.begin(), timers.end(), [](const QTimer* timer) {
-            return timer->property("waiter_current_value").toInt() == 100;
-        });
-        QVERIFY(waiter != timers.end() && !(*waiter)->isActive());
+        const QTimer* waiter = nullptr;
+        for (const QTimer* timer : window(current).findChildren<QTimer*>()) {
+            if (timer->property("waiter_current_value").toInt() == 100)
+                waiter = timer;
+        }
+        QVERIFY(waiter && !waiter->isActive());
         const QPair<float, int> intervals[] = {
             {1.5F, 150}, {0.0199F, 1}, {std::nanf(""), 0}, {std::numeric_limits<float>::infinity(), INT_MAX}};
         for (const auto& interval : intervals) {
             current->startWaiter(interval.first);
-            QVERIFY((*waiter)->isActive() && (*waiter)->property("waiter_current_value").toInt() == 0);
-            QCOMPARE((*waiter)->interval(), interval.second);
+            QVERIFY(waiter->isActive() && waiter->property("waiter_current_value").toInt() == 0);
+            QCOMPARE(waiter->interval(), interval.second);
         }
     }
 
