@@ -19,10 +19,6 @@ const QStringList timeout{QStringLiteral("evTimeout")};
 /// Knows one key of the host's messages.
 class HostTranslator final : public QTranslator {
 public:
-    bool isEmpty() const override
-    {
-        return false;
-    }
     QString translate(const char* context, const char* source, const char*, int) const override
     {
         const bool known = qstrcmp(context, "ControllerConsts") == 0 && qstrcmp(source, "askControl") == 0;
@@ -54,7 +50,6 @@ private Q_SLOTS:
         auto* prompt = get<Prompt>();
         const char* const kinds[] = {"Remote control", "Remote tools", "Remote control", "Remote access", ""};
         for (int type = 0; type < int(std::size(kinds)); ++type) {
-            prompt->setRequesterName(QStringLiteral("Jane - [*]"));
             prompt->setSessionType(type);
             prompt->setRequesterName(QStringLiteral("J - [*]"));
             QCOMPARE(window(prompt).windowTitle(), QStringLiteral("J - [*][*] - ") + QLatin1String(kinds[type]));
@@ -152,11 +147,9 @@ private Q_SLOTS:
             auto* next = get<Prompt>(QStringLiteral("x"));
             next->show();
             QCOMPARE(window(next).geometry(), window(prompts.last()).geometry());
-            const QPointer<QWidget> guard = &window(next);
             QVERIFY(gui().deleteAllApproveRemoteConnectionDialogInstances());
             QVERIFY(!gui().deleteAllApproveRemoteConnectionDialogInstances());
             settle();
-            QVERIFY(!guard);
         }
     }
 

@@ -1,6 +1,8 @@
 #include "GuiTest.h"
 
+#include <QClipboard>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QPointer>
 #include <QPushButton>
 #include <QTextEdit>
@@ -94,7 +96,7 @@ private Q_SLOTS:
     {
         auto* dialog = show<IServiceDeskTicketDialog>();
         const QPointer<QWidget> guard(&window(dialog));
-        QTest::keyClicks(&child(dialog, "edSubject"), QStringLiteral("typed"));
+        QTest::keyClick(&child(dialog, "edSubject"), Qt::Key_A);
         QString font;
         QTimer::singleShot(0, this, [&font] {
             font = question() ? question()->defaultButton()->font().family() : QString();
@@ -156,8 +158,7 @@ private Q_SLOTS:
         QTest::keyClicks(&edit, before);
         paste(edit, pasted);
         QCOMPARE(text(), after);
-        for (int i = 0; i < 3; ++i)
-            QTest::keyClick(&edit, 'x');
+        QTest::keyClicks(&edit, QStringLiteral("xxx"));
         for (int steps = 0; !text().isEmpty() && steps < 4; ++steps)
             QTest::keySequence(&edit, QKeySequence::Undo);
         QCOMPARE(text(), QString());
@@ -176,7 +177,13 @@ private Q_SLOTS:
         QCOMPARE(dialog->getIssueDetails(), QStringLiteral("abcdef"));
         QVERIFY(!child(dialog, "bnSubmit").isEnabled());
         auto& details = child<QTextEdit>(dialog, "txIssueDetails");
-        paste(details, QStringLiteral("12"));
+        // Pasted is plain text, also where the clipboard has more.
+        auto* content = new QMimeData;
+        content->setText(QStringLiteral("12"));
+        content->setHtml(QStringLiteral("1<b>2</b><img src='x.png'>"));
+        QGuiApplication::clipboard()->setMimeData(content);
+        details.paste();
+        QVERIFY(!details.toHtml().contains(QLatin1String("<img")));
         QCOMPARE(dialog->getIssueDetails(), QStringLiteral("12a"));
         QVERIFY(details.textCursor().atEnd() && child(dialog, "bnSubmit").isEnabled());
         QTest::keySequence(&details, QKeySequence::Undo);
