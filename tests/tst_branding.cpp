@@ -89,8 +89,8 @@ private Q_SLOTS:
         QCOMPARE(report.values.last().second, strings.supportPhone);
         QFETCH(QString, remark);
         QCOMPARE(report.remarks.isEmpty(), remark.isEmpty());
-        QVERIFY2(report.remarks.join(QLatin1Char('\n')).contains(remark),
-                 qPrintable(report.remarks.join(QLatin1Char('\n'))));
+        const QString remarks = report.remarks.join(QLatin1Char('\n'));
+        QVERIFY2(remarks.contains(remark), qPrintable(remarks));
     }
 };
 

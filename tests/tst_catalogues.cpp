@@ -17,9 +17,7 @@ QString path(const QString& folder, const QString& language)
 QByteArray contents(const QString& path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("cannot read %s", qPrintable(path));
-    return file.readAll();
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 /// The placeholders of @p text in alphabetical order.
@@ -87,21 +85,21 @@ private Q_SLOTS:
                 continue;
             const QString translation = texts[element];
             const QString source = texts[QStringLiteral("source")];
-            const QByteArray context = texts[QStringLiteral("name")].toUtf8();
+            const QString context = texts[QStringLiteral("name")];
             QVERIFY2(!translation.isEmpty(), qPrintable(source));
             QCOMPARE(placeholders(translation), placeholders(source));
             // Where a value follows in the same line, and where it does not.
             QCOMPARE(translation.endsWith(QLatin1Char(' ')), source.endsWith(QLatin1Char(' ')));
             // The prompt takes what follows the first bracket on its buttons for the countdown.
-            QVERIFY(context != "ApproveRemoteConnectionDialog" || !translation.contains(QLatin1Char('(')));
+            QVERIFY(context != QLatin1String("ApproveRemoteConnectionDialog")
+                    || !translation.contains(QLatin1Char('(')));
             if (language == QLatin1String("en") && number < 0)
                 QCOMPARE(translation, source);
-            const QByteArray comment = texts[QStringLiteral("comment")].toUtf8();
-            if (number < 2) {
+            const QString comment = texts[QStringLiteral("comment")];
+            if (number < 2)
                 QCOMPARE(
-                    library.translate(context.constData(), source.toUtf8().constData(), comment.constData(), number),
+                    library.translate(qUtf8Printable(context), qUtf8Printable(source), qUtf8Printable(comment), number),
                     translation);
-            }
             number = number < 0 ? -1 : 2; // The other plural forms stand for numbers that depend on the language.
         }
         QVERIFY2(texts.contains(QStringLiteral("name")), "nothing was read");

@@ -88,16 +88,16 @@ private Q_SLOTS:
             {R"({"do": "expect", $, "properties": {"message": "x"}})", "expected {"},
         };
         QByteArray script = "{\"do\": \"get\", $}\n\n";
-        for (const auto& line : lines)
-            script += line.first + QByteArray("\n");
-        const Run result = play(script, "ErrorMessageDialog");
-        QCOMPARE(result.exitCode, 1);
+        QString errors;
         int number = 2;
         for (const auto& line : lines) {
-            const QString error = QStringLiteral("line %1: [^\n]*").arg(++number)
-                + QRegularExpression::escape(QLatin1String(line.second));
-            QVERIFY2(QRegularExpression(error).match(QString::fromUtf8(result.errors)).hasMatch(), qPrintable(error));
+            script += line.first + QByteArray("\n");
+            errors += QStringLiteral("line %1: .*\\Q%2\\E.*\n").arg(++number).arg(QLatin1String(line.second));
         }
+        const Run result = play(script, "ErrorMessageDialog");
+        QCOMPARE(result.exitCode, 1);
+        const bool isTold = QRegularExpression(errors).match(QString::fromUtf8(result.errors)).hasMatch();
+        QVERIFY2(isTold, result.errors.constData());
     }
 
     void goodLinesAfterAWrongOne()
@@ -136,12 +136,11 @@ private Q_SLOTS:
 
     void gallery()
     {
-        const QString name = QStringLiteral("ErrorMessageDialog");
-        const Run result = run({QStringLiteral("gallery"), pictures.path(), QStringLiteral("--dialog"), name});
+        const QString arguments = QStringLiteral("gallery,%1,--dialog,ErrorMessageDialog").arg(pictures.path());
+        const Run result = run(arguments.split(QLatin1Char(',')));
         QVERIFY2(result.exitCode == 0, result.errors.constData());
         QFile page(pictures.filePath(QStringLiteral("index.html")));
         QVERIFY(page.open(QIODevice::ReadOnly) && page.readAll().contains("ErrorMessageDialog-hover.png"));
-        QVERIFY(QFile::exists(pictures.filePath(name + QStringLiteral("-hover.png"))));
     }
 
     void noDialogWithoutApplication()

@@ -46,14 +46,8 @@ private Q_SLOTS:
         showActive(dialog);
         settle();
 
-        const auto geometries = [dialog] {
-            QVector<QRect> result{window(dialog).geometry()};
-            const auto widgets = window(dialog).findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
-            for (const QWidget* widget : widgets)
-                result << widget->geometry();
-            return result;
-        };
-        const QVector<QRect> before = geometries();
+        const auto area = [dialog] { return window(dialog).childrenRegion().translated(window(dialog).pos()); };
+        const QRegion before = area();
         const QFont font = QApplication::font();
         const QPalette palette = QApplication::palette();
         QApplication::setFont(QFont(QStringLiteral("Liberation Serif"), 30));
@@ -61,7 +55,7 @@ private Q_SLOTS:
         QEvent languageChange(QEvent::LanguageChange);
         QApplication::sendEvent(&window(dialog), &languageChange);
         settle();
-        const QVector<QRect> after = geometries();
+        const QRegion after = area();
         QApplication::setFont(font);
         QApplication::setPalette(palette);
         QCOMPARE(after, before);

@@ -11,14 +11,10 @@
 namespace {
 constexpr int totalSteps = 20000;
 const QVector<double> ratios{1.0, 0.5, 0.8, 0.0, -1.0, 1e-9, qQNaN(), qInf()};
-const QJsonArray texts{QString(),
-                       QStringLiteral("a"),
-                       QStringLiteral("<b>%1</b>&amp;"),
-                       QStringLiteral("https://mdm.example.com:444/0123456789abcdef0123456789abcdef"),
-                       QStringLiteral("file"),
-                       QStringLiteral("file-upload"),
-                       QStringLiteral("reply"),
-                       QString(5000, QLatin1Char('w'))};
+const QString words = QStringLiteral(" a <b>%1</b>&amp; https://mdm.example.com:444/0123456789abcdef0123456789abcdef "
+                                     "file file-upload reply ")
+    + QString(5000, QLatin1Char('w'));
+const QJsonArray texts = QJsonArray::fromStringList(words.split(QLatin1Char(' ')));
 const QHash<int, QJsonArray> valuesByType{
     {QJsonValue::Bool, {false, true}},
     {QJsonValue::String, texts},
@@ -59,12 +55,10 @@ class MisuseTest : public GuiTest {
         const Family& family = dialogFamilies()[below(dialogFamilies().size())];
         // Prompts are kept per id, all others whatever the id.
         const QString id(below(4), QLatin1Char('a'));
-        if (oneIn(2)) {
-            for (const Known& candidate : qAsConst(known)) {
-                if (candidate.window && candidate.family == &family && candidate.id == id)
-                    return candidate;
-            }
-        }
+        const auto isUsable = [&](const Known& one) { return one.window && one.family == &family && one.id == id; };
+        const auto old = std::find_if(known.cbegin(), known.cend(), isUsable);
+        if (old != known.cend() && oneIn(2))
+            return *old;
         IBaseDialog* dialog = family.get(gui(), id);
         family.attach(gui(), &receiver, family.receiverSlot.constData(), id);
         known.append({&family, id, dialog, &window(dialog)});
@@ -82,15 +76,6 @@ class MisuseTest : public GuiTest {
         } catch (const ScriptError&) {
             // A number that the operation's type does not hold.
         }
-    }
-
-    void exec(IBaseDialog* dialog)
-    {
-        if (running.size() >= 4 || running.contains(dialog))
-            return;
-        running.append(dialog);
-        dialog->exec();
-        running.removeLast();
     }
 
     void endInnermost()
@@ -111,7 +96,13 @@ class MisuseTest : public GuiTest {
             [&] { target.dialog->setRatio(oneIn(400) ? 1e9F : static_cast<float>(pick(ratios))); },
             [&] { target.dialog->setModal(oneIn(2)); },
             [&] { target.window->close(); },
-            [&] { exec(target.dialog); },
+            [&] {
+                if (running.size() >= 4 || running.contains(target.dialog))
+                    return;
+                running.append(target.dialog);
+                target.dialog->exec();
+                running.removeLast();
+            },
             [&] { press(target.dialog, pick(keys)); },
             [&] { pick(target.window->findChildren<QAbstractButton*>())->click(); },
             [&] {
@@ -124,17 +115,6 @@ class MisuseTest : public GuiTest {
             callOperation(target);
         else
             pick(actions)();
-    }
-
-    void onEvent()
-    {
-        ++eventCount;
-        // What a host may do in its slot: anything but deleting the sender under its own feet.
-        if (handlers >= 2 || !oneIn(3))
-            return;
-        ++handlers;
-        actOn(randomDialog());
-        --handlers;
     }
 
     void step()
@@ -182,16 +162,21 @@ class MisuseTest : public GuiTest {
 private Q_SLOTS:
     void anyOrder()
     {
-        // Questions stay open while other things happen.
-        qApp->removeEventFilter(this);
-        connect(&receiver, &EventReceiver::received, this, &MisuseTest::onEvent);
+        connect(&receiver, &EventReceiver::received, this, [this] {
+            ++eventCount;
+            // What a host may do in its slot: anything but deleting the sender under its own feet.
+            if (handlers >= 2 || !oneIn(3))
+                return;
+            ++handlers;
+            actOn(randomDialog());
+            --handlers;
+        });
         keepGoing();
         while (steps < totalSteps)
             step();
         QTRY_VERIFY(!QApplication::activeModalWidget());
         for (const Known& one : qAsConst(known))
             delete one.window;
-        known.clear();
         QVERIFY(eventCount > totalSteps / 40);
     }
 };

@@ -6,10 +6,6 @@
 #include <cstring>
 #include <limits>
 
-namespace {
-const char* const errorSlot = SLOT(onDialogEvent(IErrorMessageDialog*, IErrorMessageDialog::TEvent));
-} // namespace
-
 /// The root object: identity, registry, event wiring and the scale factor; and every property of the dialogs.
 class PluginTest : public GuiTest {
     Q_OBJECT
@@ -114,6 +110,7 @@ private Q_SLOTS:
 
     void attaching()
     {
+        const char* const errorSlot = SLOT(onDialogEvent(IErrorMessageDialog*, IErrorMessageDialog::TEvent));
         auto* dialog = show<IErrorMessageDialog>();
         EventReceiver second;
         int received = 0;
@@ -158,10 +155,7 @@ private Q_SLOTS:
 
         gui().setRatio(std::numeric_limits<float>::max());
         auto* huge = show<IAboutDialog>();
-        const auto longestSide = [huge] { return qMax(window(huge).width(), window(huge).height()); };
-        QVERIFY(longestSide() <= 8192);
-        huge->setRatio(1.0e30F);
-        QVERIFY(longestSide() <= 8192);
+        QVERIFY(window(huge).width() <= 8192 && window(huge).height() <= 8192);
         checkEvents(huge, QStringLiteral("btnClose"), QStringLiteral("evClose"));
         huge->setRatio(std::numeric_limits<float>::denorm_min());
         settle();

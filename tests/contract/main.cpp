@@ -1,7 +1,4 @@
-#include "DialogCatalogue.h"
-#include "GuiInterface.h"
 #include "GuiTest.h"
-#include "IBaseDialog.h"
 
 #include <QDebug>
 #include <QDirIterator>
@@ -67,10 +64,10 @@ void describeResources(QTextStream& out)
     names.sort();
     // Qt's own.
     for (const QString& name : names.filter(QRegularExpression(QStringLiteral("^:/(?!qt-project.org)")))) {
-        const QSize size = QImage(name).size();
+        const QImage image(name);
         out << "    " << name;
-        if (!size.isEmpty())
-            out << ' ' << size.width() << 'x' << size.height();
+        if (!image.isNull())
+            out << ' ' << image.width() << 'x' << image.height();
         QFile file(name);
         if (name.endsWith(QLatin1String(".qss")) && file.open(QIODevice::ReadOnly))
             out << (file.readAll().contains("\r\n") ? " CRLF" : " LF");
