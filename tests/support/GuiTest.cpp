@@ -3,9 +3,11 @@
 
 #include <QClipboard>
 #include <QDir>
+#include <QMessageBox>
 #include <QMetaEnum>
 #include <QPluginLoader>
 #include <QThreadPool>
+#include <QTimer>
 
 #include <utility>
 
@@ -95,6 +97,21 @@ QStringList GuiTest::takeEvents()
     return names;
 }
 
+void GuiTest::onNextEvent(std::function<void()> reaction)
+{
+    nextReaction = std::move(reaction);
+}
+
+QWidget& GuiTest::window(IBaseDialog* dialog)
+{
+    return dynamic_cast<QWidget&>(*dialog);
+}
+
+void GuiTest::click(IBaseDialog* dialog, const char* button)
+{
+    QTest::mouseClick(&child(dialog, button), Qt::LeftButton);
+}
+
 void GuiTest::press(IBaseDialog* dialog, Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
     QWidget& top = window(dialog);
@@ -163,6 +180,25 @@ void GuiTest::settle()
 {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QCoreApplication::processEvents();
+}
+
+bool GuiTest::eventFilter(QObject* watched, QEvent* event)
+{
+    // exec() of a question that no test answers would last until the whole program is killed.
+    auto* question = event->type() == QEvent::Show ? qobject_cast<QMessageBox*>(watched) : nullptr;
+    if (question) {
+        QTimer::singleShot(3000, question, [question] {
+            QTest::qFail(qPrintable(QStringLiteral("unexpected question: ") + question->text()), __FILE__, __LINE__);
+            question->reject();
+        });
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void GuiTest::initTestCase()
+{
+    gui();
+    qApp->installEventFilter(this);
 }
 
 void GuiTest::init()

@@ -20,7 +20,7 @@ inline constexpr bool hasSanitizer = false;
 
 /// The base of all tests that drive the built plugin: loads it as a host does, records the events of every dialog got
 /// through it, takes all dialogs down after each test function, and fails the function during which a warning was
-/// written.
+/// written or a question was left open.
 class GuiTest : public QObject {
     Q_OBJECT
 
@@ -52,15 +52,9 @@ protected:
     /// All events received since the last takeEvents().
     QVector<DialogEvent> events;
     /// Runs @p reaction once, in the host's slot for the next event.
-    void onNextEvent(const std::function<void()>& reaction)
-    {
-        nextReaction = reaction;
-    }
+    void onNextEvent(std::function<void()> reaction);
 
-    static QWidget& window(IBaseDialog* dialog)
-    {
-        return dynamic_cast<QWidget&>(*dialog);
-    }
+    static QWidget& window(IBaseDialog* dialog);
     /// The widget of that object name; a null reference never returns: the test is aborted.
     template <class Widget = QWidget>
     static Widget& child(IBaseDialog* dialog, const char* name)
@@ -71,10 +65,7 @@ protected:
             qFatal("%s has no such widget: %s", qPrintable(top.objectName()), name);
         return *widget;
     }
-    static void click(IBaseDialog* dialog, const char* button)
-    {
-        QTest::mouseClick(&child(dialog, button), Qt::LeftButton);
-    }
+    static void click(IBaseDialog* dialog, const char* button);
     /// Sends a key to where a person's would go: the focused widget of the dialog.
     static void press(IBaseDialog* dialog, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
@@ -96,11 +87,11 @@ protected:
     /// Lets scheduled deletions and zero-delay timers happen.
     static void settle();
 
+    /// Fails the test function and closes the question when a message box stays open.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 protected Q_SLOTS:
-    void initTestCase()
-    {
-        gui();
-    }
+    void initTestCase();
     void init();
     void cleanup();
 
