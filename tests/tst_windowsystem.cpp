@@ -1,5 +1,6 @@
 #include "GuiTest.h"
 
+#include <QEventLoop>
 #include <QLineEdit>
 #include <QProcess>
 #include <QPushButton>
@@ -47,12 +48,13 @@ private Q_SLOTS:
         host.raise();
         host.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&host));
-        QVERIFY(stacking().contains(host.winId()));
-        const auto isBelow = [&](IBaseDialog* upper) {
-            return stacking().indexOf(host.winId()) < stacking().indexOf(window(upper).winId());
+        const auto isBelow = [](const QWidget& lower, const QWidget& upper) {
+            const QVector<WId> windows = stacking();
+            return windows.indexOf(lower.winId()) >= 0
+                && windows.indexOf(lower.winId()) < windows.indexOf(upper.winId());
         };
-        QTRY_VERIFY(isBelow(dialog));
-        QVERIFY(isBelow(session));
+        QTRY_VERIFY(isBelow(host, window(dialog)));
+        QVERIFY(isBelow(host, window(session)));
     }
 
     void modalBlocksTheHost()
@@ -98,20 +100,31 @@ private Q_SLOTS:
         QCOMPARE(takeEvents(), QStringList());
     }
 
-    /// The prompt has a title bar, whose height must not move it.
     void dragging()
     {
         auto* prompt = get<IApproveRemoteConnectionDialog>();
         prompt->setCountdown(1000);
-        showActive(prompt);
-        const QPoint start = window(prompt).pos();
-        const QPoint grip = child(prompt, "buttonsBackground").mapToGlobal(QPoint(30, 30));
-        moveMouse(grip);
-        xdotool(QStringLiteral("mousedown 1"));
-        for (int i = 1; i <= 5; ++i)
-            moveMouse(grip + QPoint(20, -10) * i);
-        QTRY_COMPARE(window(prompt).pos(), start + QPoint(100, -50));
-        xdotool(QStringLiteral("mouseup 1"));
+        auto* larger = get<IErrorMessageDialog>();
+        larger->setRatio(2);
+        // One without a title bar and larger than the screen, and one with a title bar.
+        const QPair<IBaseDialog*, const char*> dialogs[] = {{larger, "content"}, {prompt, "buttonsBackground"}};
+        for (const auto& dialog : dialogs) {
+            showActive(dialog.first);
+            QWidget& top = window(dialog.first);
+            const QPoint start = top.pos();
+            QVERIFY(QGuiApplication::primaryScreen()->availableGeometry().contains(start));
+            const QPoint grip = child(dialog.first, dialog.second).mapToGlobal(QPoint(30, 30));
+            moveMouse(grip);
+            xdotool(QStringLiteral("mousedown 1"));
+            for (int i = 1; i <= 5; ++i)
+                moveMouse(grip + QPoint(20, -10) * i);
+            QTRY_COMPARE(top.pos(), start + QPoint(100, -50));
+            xdotool(QStringLiteral("mouseup 1"));
+            moveMouse(grip);
+            settle();
+            QCOMPARE(top.pos(), start + QPoint(100, -50));
+            dialog.first->hide();
+        }
     }
 
     void promptLeavesTheFocus()
@@ -146,9 +159,14 @@ private:
     static QByteArray run(const QString& program, const QStringList& arguments)
     {
         QProcess process;
+        QEventLoop loop;
+        QObject::connect(&process, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), &loop,
+                         &QEventLoop::quit);
         process.start(program, arguments);
-        if (!QTest::qWaitFor([&process] { return process.state() == QProcess::NotRunning; }))
-            qFatal("%s does not end", qPrintable(program));
+        if (!process.waitForStarted())
+            qFatal("%s does not start", qPrintable(program));
+        if (process.state() != QProcess::NotRunning)
+            loop.exec();
         return process.readAllStandardOutput();
     }
 
