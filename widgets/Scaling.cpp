@@ -37,8 +37,8 @@ QString scaledStyleSheet(const QString& styleSheet, float ratio)
     for (auto matches = pixels.globalMatch(styleSheet); matches.hasNext();) {
         const QRegularExpressionMatch match = matches.next();
         const int unscaled = match.capturedRef(1).toInt();
-        // No font has 0 pixels, however small the ratio.
-        const int length = qMax(qMin(unscaled, 1), qRound(static_cast<float>(unscaled) * ratio));
+        // Truncated like the boxes: a border rounded up would take room from the text. But no font has 0 pixels.
+        const int length = qMax(qMin(unscaled, 1), scaled(unscaled, ratio));
         result += styleSheet.midRef(end, match.capturedStart() - end) + QString::number(length) + QLatin1String("px");
         end = match.capturedEnd();
     }
