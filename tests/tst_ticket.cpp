@@ -1,6 +1,7 @@
 #include "GuiTest.h"
 
 #include <QClipboard>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPointer>
@@ -149,6 +150,8 @@ private Q_SLOTS:
         QFETCH(QString, pasted);
         QFETCH(QString, after);
         auto* dialog = show<IServiceDeskTicketDialog>();
+        dialog->setSubjectMaxLength(0);
+        QCOMPARE(child<QLineEdit>(dialog, "edSubject").maxLength(), 32767);
         dialog->setSubjectMaxLength(5);
         dialog->setIssueDetailsMaxLength(5);
         auto& edit = child(dialog, qPrintable(field));
