@@ -1,11 +1,5 @@
 #include "GuiTest.h"
 
-#include <QDate>
-#include <QFile>
-#include <QLabel>
-#include <QPluginLoader>
-#include <QTemporaryDir>
-
 /// The About box: its copyright, its link, and the support contacts of the branding file.
 class AboutTest : public GuiTest {
     Q_OBJECT

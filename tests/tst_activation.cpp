@@ -1,13 +1,5 @@
 #include "GuiTest.h"
 
-#include <QClipboard>
-#include <QDropEvent>
-#include <QLineEdit>
-#include <QMimeData>
-#include <QRandomGenerator>
-#include <QRegExp>
-#include <QUrl>
-
 namespace {
 const char* const fieldNames[] = {"edHost", "edPort", "edToken"};
 const QString token = QStringLiteral("Qm7Zx2Lk9Tr4Vb6Ny1Hs3Dw8Gf5Jp0Cu");

@@ -1,13 +1,5 @@
 #include "GuiTest.h"
 
-#include <QPlainTextEdit>
-#include <QPointer>
-#include <QPushButton>
-#include <QRandomGenerator>
-#include <QScreen>
-#include <QTimer>
-#include <QTranslator>
-
 #include <limits>
 
 namespace {

@@ -2,9 +2,6 @@
 #include "BrandingStrings.h"
 #include "GuiTest.h"
 
-#include <QDir>
-#include <QTemporaryDir>
-
 /// The branding record, built from files of every kind.
 class BrandingTest : public GuiTest {
     Q_OBJECT

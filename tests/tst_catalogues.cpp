@@ -1,10 +1,5 @@
 #include "GuiTest.h"
 
-#include <QProcess>
-#include <QTemporaryDir>
-#include <QTranslator>
-#include <QXmlStreamReader>
-
 namespace {
 const QStringList languages = QStringLiteral(LANGUAGES).split(QLatin1Char(' '));
 const QString directory = QStringLiteral(SOURCES "/resources/translations");

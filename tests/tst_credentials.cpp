@@ -1,11 +1,5 @@
 #include "GuiTest.h"
 
-#include <QAccessible>
-#include <QClipboard>
-#include <QLineEdit>
-#include <QRadioButton>
-#include <QRandomGenerator>
-
 #include <limits>
 
 namespace {

@@ -1,17 +1,5 @@
 #include "GuiTest.h"
 
-#include <QAbstractButton>
-#include <QBuffer>
-#include <QComboBox>
-#include <QJsonDocument>
-#include <QLabel>
-#include <QLineEdit>
-#include <QScrollBar>
-#include <QSpinBox>
-#include <QTextDocument>
-#include <QTextEdit>
-#include <QWheelEvent>
-
 /// What each dialog reports for clicks, keys, slots and requests to close, where it
 /// starts, and what the error message, the restart prompt and the options do besides.
 class DialogsTest : public GuiTest {

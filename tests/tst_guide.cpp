@@ -1,9 +1,5 @@
 #include "GuiTest.h"
 
-#include <QAbstractButton>
-#include <QFile>
-#include <QListView>
-
 /// The tables of the host guide, read and compared with what the dialogs do.
 class GuideTest : public GuiTest {
     Q_OBJECT

@@ -1,11 +1,5 @@
 #include "GuiTest.h"
 
-#include <QDir>
-#include <QJsonDocument>
-#include <QPluginLoader>
-#include <QProcess>
-#include <QTemporaryDir>
-
 namespace {
 struct Run {
     int exitCode = -1;

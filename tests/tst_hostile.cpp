@@ -1,13 +1,5 @@
 #include "GuiTest.h"
 
-#include <QFile>
-#include <QLabel>
-#include <QListView>
-#include <QLockFile>
-#include <QTemporaryDir>
-#include <QTextDocument>
-#include <QTextDocumentFragment>
-
 #include <ctime>
 
 #ifdef Q_OS_LINUX

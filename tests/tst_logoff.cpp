@@ -1,9 +1,5 @@
 #include "GuiTest.h"
 
-#include <QLibrary>
-#include <QMessageBox>
-#include <QTimer>
-
 /// The desktop changes under open dialogs: fonts, colours and language change, the session ends.
 class LogoffTest : public GuiTest {
     Q_OBJECT

@@ -1,10 +1,5 @@
 #include "GuiTest.h"
 
-#include <QAbstractButton>
-#include <QDialog>
-#include <QPointer>
-#include <QTimer>
-
 #include <functional>
 #include <random>
 

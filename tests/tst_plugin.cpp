@@ -1,7 +1,5 @@
 #include "GuiTest.h"
 
-#include <QPointer>
-
 #include <cmath>
 #include <cstring>
 #include <limits>

@@ -1,9 +1,5 @@
 #include "GuiTest.h"
 
-#include <QLabel>
-#include <QSignalSpy>
-#include <QTimer>
-
 #include <climits>
 #include <cmath>
 #include <limits>

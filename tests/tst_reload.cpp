@@ -1,10 +1,5 @@
 #include "GuiTest.h"
 
-#include <QAccessible>
-#include <QLineEdit>
-#include <QLoggingCategory>
-#include <QPluginLoader>
-
 /// A host that takes the plugin away again. Nothing of it may stay behind: no resource, no translator, no pointer into
 /// code that is no longer there.
 class ReloadTest : public QObject {

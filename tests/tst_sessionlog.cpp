@@ -1,14 +1,5 @@
 #include "GuiTest.h"
 
-#include <QAccessible>
-#include <QCheckBox>
-#include <QClipboard>
-#include <QListView>
-#include <QScreen>
-#include <QScrollBar>
-#include <QTextDocumentFragment>
-#include <QToolTip>
-
 #include <limits>
 
 namespace {

@@ -1,16 +1,5 @@
 #include "GuiTest.h"
 
-#include <QCheckBox>
-#include <QDateTime>
-#include <QLabel>
-#include <QMap>
-#include <QPushButton>
-#include <QRandomGenerator>
-#include <QScreen>
-#include <QSignalSpy>
-#include <QTimer>
-#include <QWindow>
-
 #include <limits>
 #include <utility>
 

@@ -1,26 +1,6 @@
 #include "GuiTest.h"
 #include "ScriptPlayer.h"
 
-#include <QAbstractItemView>
-#include <QAccessible>
-#include <QAction>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QContextMenuEvent>
-#include <QFileInfo>
-#include <QGroupBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QScopedValueRollback>
-#include <QScreen>
-#include <QSignalSpy>
-#include <QTemporaryDir>
-#include <QTextDocument>
-#include <QTextEdit>
-#include <QTimer>
-#include <QTranslator>
-
 #include <cmath>
 
 namespace {

@@ -1,15 +1,5 @@
 #include "GuiTest.h"
 
-#include <QClipboard>
-#include <QLineEdit>
-#include <QMessageBox>
-#include <QMimeData>
-#include <QPointer>
-#include <QPushButton>
-#include <QTextEdit>
-#include <QTimer>
-#include <QWheelEvent>
-
 /// The ticket form: what may be submitted, what its limits keep out, and that nothing typed gets lost unasked.
 class TicketTest : public GuiTest {
     Q_OBJECT

@@ -2,8 +2,6 @@
 #include "UserInterfaceLanguage.h"
 #include "loadTranslation.h"
 
-#include <QTranslator>
-
 namespace {
 const char* const variables[] = {"LANGUAGE", "LC_ALL", "LC_MESSAGES", "LANG"};
 } // namespace

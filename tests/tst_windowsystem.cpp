@@ -1,13 +1,5 @@
 #include "GuiTest.h"
 
-#include <QEventLoop>
-#include <QLineEdit>
-#include <QProcess>
-#include <QPushButton>
-#include <QScreen>
-#include <QVBoxLayout>
-#include <QWindow>
-
 namespace {
 /// A window of the host program that fills the screen's middle.
 class HostWindow : public QWidget {

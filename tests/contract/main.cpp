@@ -1,14 +1,5 @@
 #include "GuiTest.h"
 
-#include <QDebug>
-#include <QDirIterator>
-#include <QImage>
-#include <QJsonDocument>
-#include <QMetaMethod>
-#include <QPluginLoader>
-#include <QScreen>
-#include <QTextStream>
-
 #include <algorithm>
 
 namespace {

@@ -1,14 +1,6 @@
 #include "GuiTest.h"
 #include "Surroundings.h"
 
-#include <QClipboard>
-#include <QDir>
-#include <QMessageBox>
-#include <QMetaEnum>
-#include <QPluginLoader>
-#include <QThreadPool>
-#include <QTimer>
-
 #include <utility>
 
 namespace {

@@ -4,10 +4,8 @@
 #include "EventReceiver.h"
 #include "GuiInterface.h"
 
-#include <QApplication>
-#include <QRegularExpression>
-#include <QTest>
-#include <QWidget>
+#include <QtTest>
+#include <QtWidgets>
 
 #include <functional>
 
