@@ -27,7 +27,7 @@ private Q_SLOTS:
         QTRY_VERIFY(window(dialog).isActiveWindow());
         QVERIFY(gui().deleteAboutDialogInstance());
         settle();
-        QVERIFY(!messages().filter(QLatin1String("About dialog destroyed")).isEmpty());
+        QVERIFY(!messages.filter(QLatin1String("About dialog destroyed")).isEmpty());
     }
 
     void contacts_data()

@@ -21,7 +21,7 @@ private Q_SLOTS:
         QCOMPARE(strings.updatingTaskName, QStringLiteral("Ostrel VQS Updating Task"));
         QCOMPARE(strings.supportEmail + strings.supportPhone, QString());
         const QString path = QStringLiteral("\"%1/oem.strings\"").arg(directory.path());
-        QCOMPARE(messages().mid(0, 2),
+        QCOMPARE(messages.mid(0, 2),
                  QStringList({QStringLiteral("Try to find oem.strings in ") + path,
                               QStringLiteral("OEM strings file does not exists! ") + path}));
 
@@ -77,7 +77,7 @@ private Q_SLOTS:
         QTEST(strings.supportPhone, "supportPhone");
         QCOMPARE(strings.productFullName, companyName + QStringLiteral(" Tavik"));
         QCOMPARE(strings.rmmAgentName, QStringLiteral("Ostrel Remote Monitoring and Management Agent"));
-        QCOMPARE(messages().last(), QStringLiteral("OEM strings loaded"));
+        QCOMPARE(messages.last(), QStringLiteral("OEM strings loaded"));
 
         // The reference host reads the file by itself and must come to the same.
         const BrandingReport report(directory.filePath(QStringLiteral("oem.strings")));

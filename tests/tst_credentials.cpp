@@ -73,7 +73,7 @@ private Q_SLOTS:
         QVERIFY(!edit.dragEnabled());
         edit.setText(text);
         press(dialog, Qt::Key_Return);
-        QVERIFY(messages().filter(QStringLiteral("sesame")).isEmpty());
+        QVERIFY(messages.filter(QStringLiteral("sesame")).isEmpty());
     }
 
     /// What a host sets and a person does, in any order, against what should be enabled and chosen.

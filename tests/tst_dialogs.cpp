@@ -246,6 +246,20 @@ private Q_SLOTS:
         QCOMPARE(dialog->getProxyPort(), 9999);
     }
 
+    void modalBlocksTheHost()
+    {
+        QPushButton button;
+        QSignalSpy clicked(&button, &QPushButton::clicked);
+        button.show();
+        for (const bool modal : {true, false}) {
+            get<IAcceptMessageDialog>()->setModal(modal);
+            showActive(get<IAcceptMessageDialog>());
+            QTest::mouseClick(button.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
+            QTRY_COMPARE(clicked.size(), modal ? 0 : 1);
+            get<IAcceptMessageDialog>()->hide();
+        }
+    }
+
     void hiddenParts()
     {
         auto* dialog = show<IOptionDialog>();

@@ -4,21 +4,11 @@
 #include <cstring>
 #include <limits>
 
-/// The root object: identity, registry, event wiring and the scale factor; and every property of the dialogs.
+/// The root object: registry, event wiring and the scale factor; and every property of the dialogs.
 class PluginTest : public GuiTest {
     Q_OBJECT
 
 private Q_SLOTS:
-    void identity()
-    {
-        auto* root = dynamic_cast<QObject*>(&gui());
-        QVERIFY(root);
-        QCOMPARE(root->qt_metacast("Gui"), static_cast<void*>(root));
-        for (const char* name : {"GuiInterface", "com.brisel.RUV.Plugin.GuiInterface"})
-            QCOMPARE(root->qt_metacast(name), static_cast<void*>(&gui()));
-        QVERIFY(!root->qt_metacast("BaseDialog"));
-    }
-
     void families_data()
     {
         familyRows();

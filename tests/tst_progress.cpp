@@ -55,14 +55,8 @@ private Q_SLOTS:
         check(huge, huge, 100);
         check(huge, 200, 2147483647);
         check(huge, 100, -1);
-    }
-
-    void changesAreReportedOnce()
-    {
-        auto* dialog = show<IProgressDialog>();
+        // A change is reported once.
         QSignalSpy changed(&window(dialog), SIGNAL(progressChanged()));
-        dialog->setProgress(0, 100);
-        QCOMPARE(changed.count(), 0);
         for (const unsigned int total : {100U, 100U, 0U})
             dialog->setProgress(50, total);
         QCOMPARE(changed.count(), 1);

@@ -5,19 +5,20 @@
 
 namespace {
 const QDir references(QStringLiteral(REFERENCES "/") + qEnvironmentVariable("GUI_TEST_PICTURES"));
-constexpr int tileSide = 8;
-constexpr int tolerance = 28; // of 255, in any channel of a tile's mean
+constexpr int tileSide = 4;
+constexpr int tolerance = 40; // of 255, in any channel of a tile's mean
 const bool isRenewing = qEnvironmentVariableIsSet("GUI_RENEW_PICTURES");
 
-const QString untranslated = QStringLiteral("untranslated");
+/// Installed before the library is loaded, it is asked for the words of Qt that the library's translator does not know.
+struct LastTranslator final : QTranslator {
+    static inline QStringList asked;
 
-/// Installed before the library is loaded, it is asked for what the library's translator does not know.
-class LastTranslator final : public QTranslator {
-public:
     QString translate(const char* context, const char* source, const char* /*comment*/, int /*n*/) const override
     {
         // The sign between the keys of a shortcut is the same everywhere.
-        return *context != 'Q' || qstrcmp(source, "+") == 0 ? QString() : untranslated;
+        if (*context == 'Q' && qstrcmp(source, "+") != 0)
+            asked << QLatin1String(source);
+        return QString();
     }
 };
 
@@ -383,27 +384,24 @@ private Q_SLOTS:
 
     void menusAreTranslated()
     {
-        QStringList texts;
+        int menus = 0;
+        LastTranslator::asked.clear();
         for (const Family& family : dialogFamilies()) {
             IBaseDialog* dialog = get(family.name);
             dialog->show();
             for (QWidget* widget : window(dialog).findChildren<QWidget*>()) {
                 widget->setEnabled(true);
-                QTimer::singleShot(0, this, [&texts] {
-                    QWidget* const menu = QApplication::activePopupWidget();
-                    if (!menu)
-                        return;
-                    for (const QAction* action : menu->actions())
-                        texts << action->text();
-                    menu->close();
+                QTimer::singleShot(0, this, [&menus] {
+                    if (QWidget* const menu = QApplication::activePopupWidget())
+                        menus += menu->close() ? 1 : 0;
                 });
                 QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(5, 5), widget->mapToGlobal(QPoint(5, 5)));
                 QCoreApplication::sendEvent(widget, &event);
                 settle();
             }
         }
-        QVERIFY2(!texts.isEmpty(), "no menu was shown");
-        QVERIFY2(texts.filter(untranslated).isEmpty(), qPrintable(texts.join(QLatin1Char('\n'))));
+        QVERIFY(menus > 0);
+        QCOMPARE(LastTranslator::asked, QStringList());
     }
 
     void timePasses()
