@@ -3,38 +3,6 @@
 #include <algorithm>
 
 namespace {
-/// Virtual functions in their order, enumerators and base classes, as the text of a header declares them.
-void describeHeader(QTextStream& out, const QString& path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("cannot read %s", qPrintable(path));
-    QString text = QString::fromUtf8(file.readAll());
-    text.remove(QRegularExpression(QStringLiteral("//[^\n]*")));
-    text = text.simplified();
-
-    const QRegularExpression declaration(QStringLiteral(R"(class (?<class>\w+(?: : [^;{]+)?) \{)"
-                                                        R"(|enum (?<enum>\w+) \{ (?<values>[^}]*?),? \})"
-                                                        R"(|virtual (?<function>[^;]+?) = (?:0|default);)"
-                                                        R"(|Q_DECLARE_INTERFACE\((?<identifier>[^)]+)\))"));
-    int slot = 0;
-    for (auto matches = declaration.globalMatch(text); matches.hasNext();) {
-        const QRegularExpressionMatch match = matches.next();
-        const auto found = [&match](const char* name) { return match.captured(QLatin1String(name)); };
-        if (!found("class").isEmpty()) {
-            out << "\nclass " << found("class") << '\n';
-            slot = 0;
-        } else if (!found("enum").isEmpty()) {
-            for (const QString& value : found("values").split(QStringLiteral(", ")))
-                out << "    " << found("enum") << ' ' << value << '\n';
-        } else if (!found("function").isEmpty()) {
-            out << "    " << slot++ << ' ' << found("function") << '\n';
-        } else {
-            out << "    interface " << found("identifier") << '\n';
-        }
-    }
-}
-
 void describePlugin(QTextStream& out, const QString& path)
 {
     const QJsonObject data = QPluginLoader(path).metaData();
@@ -138,7 +106,7 @@ void describeDialogs(QTextStream& out, GuiInterface& gui)
 }
 } // namespace
 
-/// Writes what hosts rely on, read from the built plugin and the interface headers: contract PLUGIN HEADERS FILE
+/// Writes what hosts rely on, read from the built plugin: contract PLUGIN FILE
 int main(int argc, char** argv)
 {
     prepareTestEnvironment();
@@ -146,16 +114,13 @@ int main(int argc, char** argv)
     const QStringList arguments = QCoreApplication::arguments();
     QPluginLoader loader(arguments.value(1));
     auto* gui = qobject_cast<GuiInterface*>(loader.instance());
-    QFile file(arguments.value(3));
+    QFile file(arguments.value(2));
     if (!gui || !file.open(QIODevice::WriteOnly))
         qFatal("%s %s", qPrintable(loader.errorString()), qPrintable(file.errorString()));
 
     QTextStream out(&file);
     describePlugin(out, arguments.at(1));
     describeResources(out);
-    const QDir headers(arguments.at(2));
-    for (const QString& name : headers.entryList({QStringLiteral("*.h")}, QDir::Files, QDir::Name))
-        describeHeader(out, headers.filePath(name));
     describeDialogs(out, *gui);
     return 0;
 }

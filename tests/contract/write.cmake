@@ -1,5 +1,35 @@
-# Writes FILE: what the program CONTRACT tells of PLUGIN and HEADERS, then what the linker knows of PLUGIN.
-execute_process(COMMAND "${CONTRACT}" "${PLUGIN}" "${HEADERS}" "${FILE}" RESULT_VARIABLE failed)
+# Writes FILE: what the program CONTRACT tells of PLUGIN, what the HEADERS declare, and what the linker knows of PLUGIN.
+execute_process(COMMAND "${CONTRACT}" "${PLUGIN}" "${FILE}" RESULT_VARIABLE failed)
+
+# Virtual functions in their order, enumerators and base classes.
+set(declarations)
+file(GLOB headers "${HEADERS}/*.h")
+foreach(header IN LISTS headers)
+    file(READ "${header}" text)
+    # A semicolon would part the elements of a list.
+    string(REPLACE ";" "!" text "${text}")
+    string(REGEX REPLACE "//[^\n]*" "" text "${text}")
+    string(REGEX REPLACE "[ \n]+" " " text "${text}")
+    string(REGEX MATCHALL
+        "class [A-Za-z]+( : [^!{]+)? {|enum [A-Za-z]+ {[^}]*}|virtual [^!]+ = (0|default)!|Q_DECLARE_INTERFACE[^!]+"
+        found "${text}")
+    foreach(declaration IN LISTS found)
+        if(declaration MATCHES "^class (.*) {")
+            string(APPEND declarations "\nclass ${CMAKE_MATCH_1}\n")
+            set(slot 0)
+        elseif(declaration MATCHES "^enum ([A-Za-z]+) { (.*[^, ]),? }")
+            string(REPLACE ", " "\n    ${CMAKE_MATCH_1} " values "${CMAKE_MATCH_2}")
+            string(APPEND declarations "    ${CMAKE_MATCH_1} ${values}\n")
+        elseif(declaration MATCHES "^virtual (.*) = ")
+            string(APPEND declarations "    ${slot} ${CMAKE_MATCH_1}\n")
+            math(EXPR slot "${slot} + 1")
+        elseif(declaration MATCHES "\\((.*)\\)")
+            string(APPEND declarations "    interface ${CMAKE_MATCH_1}\n")
+        endif()
+    endforeach()
+endforeach()
+file(APPEND "${FILE}" "${declarations}")
+
 execute_process(COMMAND "${NM}" --dynamic --defined-only --format=posix "${PLUGIN}"
     OUTPUT_VARIABLE symbols RESULT_VARIABLE nm_failed)
 execute_process(COMMAND "${OBJDUMP}" --private-headers "${PLUGIN}"
