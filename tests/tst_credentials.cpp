@@ -59,11 +59,14 @@ private Q_SLOTS:
             return;
         }
 
+        edit.setCursorPosition(1);
+        QTest::keyClicks(&edit, QStringLiteral("xy"));
+        QVERIFY(edit.text().startsWith(QLatin1String(" xy open")));
         // A password leaves the field by no other way.
         QCOMPARE(edit.echoMode(), QLineEdit::Password);
         for (const auto key : {Qt::Key_Z, Qt::Key_Y})
             QTest::keyClick(&edit, key, Qt::ControlModifier);
-        QCOMPARE(edit.text(), QString(text + QStringLiteral("onetwo")));
+        QVERIFY(edit.text().startsWith(QLatin1String(" xy open")));
         QGuiApplication::clipboard()->setText(QStringLiteral("other"));
         edit.selectAll();
         for (const auto key : {Qt::Key_C, Qt::Key_X, Qt::Key_Insert})

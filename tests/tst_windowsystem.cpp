@@ -123,14 +123,9 @@ private:
     static QByteArray run(const QString& program, const QStringList& arguments)
     {
         QProcess process;
-        QEventLoop loop;
-        QObject::connect(&process, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), &loop,
-                         &QEventLoop::quit);
         process.start(program, arguments);
-        if (!process.waitForStarted())
-            qFatal("%s does not start", qPrintable(program));
-        if (process.state() != QProcess::NotRunning)
-            loop.exec();
+        if (!QTest::qWaitFor([&process] { return process.state() == QProcess::NotRunning; }, 60000))
+            qFatal("%s hangs", qPrintable(program));
         return process.readAllStandardOutput();
     }
 

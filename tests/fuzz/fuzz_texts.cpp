@@ -1,5 +1,4 @@
 #include "BrandingStrings.h"
-#include "EnrollmentLink.h"
 #include "GuiInterface.h"
 #include "IActivationDialog.h"
 
@@ -32,17 +31,6 @@ IActivationDialog* makeDialog()
     auto* gui = qobject_cast<GuiInterface*>(loader.instance());
     require(gui);
     return gui->getActivationDialogInstance();
-}
-
-void checkLink(const QString& text)
-{
-    const auto link = findEnrollmentLink(text);
-    if (!link)
-        return;
-    bool isNumber = false;
-    const int port = link->port.toInt(&isNumber);
-    require(isNumber && port >= 0 && port <= 65535);
-    require(!link->host.isEmpty() && link->token.size() == 32 && text.contains(QLatin1String("https:")));
 }
 
 /// Host and port, separated by a line feed, as a person types them, and the text as an address from the host.
@@ -90,7 +78,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
         ? QString(reinterpret_cast<const QChar*>(bytes.mid(1).constData()), (bytes.size() - 1) / 2)
         : QString::fromUtf8(bytes);
     checkAddress(text);
-    checkLink(text);
     checkBranding(bytes);
     return 0;
 }
