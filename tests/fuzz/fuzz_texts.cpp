@@ -2,12 +2,7 @@
 #include "GuiInterface.h"
 #include "IActivationDialog.h"
 
-#include <QApplication>
-#include <QLineEdit>
-#include <QLoggingCategory>
-#include <QPluginLoader>
-#include <QTemporaryDir>
-#include <QUrl>
+#include <QtWidgets>
 
 namespace {
 /// Ends the fuzzing when what must hold does not.

@@ -126,14 +126,23 @@ protected:
         else
             click(dialog, qPrintable(action));
     }
-    /// Fails unless each of the actions, separated by spaces, raises that event (none if empty) and leaves the dialog.
+    /// Fails unless each of the actions, separated by spaces, raises that event (none if empty) and leaves the dialog
+    /// visible, or hidden after "close!". "@edit" gives a widget the focus, "button+" and "button-" tell that it is
+    /// enabled or disabled.
     void checkEvents(IBaseDialog* dialog, const QString& actions, const QString& event)
     {
-        const QString result = QStringLiteral("%1 raises \"%2\"");
         for (const QString& action : actions.split(QLatin1Char(' '))) {
-            act(dialog, action);
-            QCOMPARE(result.arg(action, takeEvents().join(QLatin1Char(' '))), result.arg(action, event));
-            QVERIFY2(window(dialog).isVisible(), qPrintable(action));
+            const QChar sign = action.back();
+            const QString name = QStringLiteral("+-!").contains(sign) ? action.chopped(1) : action;
+            if (action.startsWith(QLatin1Char('@'))) {
+                child(dialog, qPrintable(action.mid(1))).setFocus();
+            } else if (sign == QLatin1Char('+') || sign == QLatin1Char('-')) {
+                QVERIFY2(child(dialog, qPrintable(name)).isEnabled() == (sign == QLatin1Char('+')), qPrintable(action));
+            } else {
+                act(dialog, name);
+                QCOMPARE(name + takeEvents().join(QLatin1Char(' ')), QString(name + event));
+                QVERIFY2(window(dialog).isVisible() != (sign == QLatin1Char('!')), qPrintable(action));
+            }
         }
     }
     static void paste(QWidget& field, const QString& text)
