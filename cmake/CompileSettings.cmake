@@ -28,6 +28,8 @@ else()
     target_compile_options(compile_settings INTERFACE
         -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wundef
         $<$<BOOL:${GUI_WERROR}>:-Werror>
+        # Qt's own macros are called so.
+        $<$<CXX_COMPILER_ID:Clang>:-Wno-gnu-zero-variadic-macro-arguments>
         -fstack-protector-strong
         # What is shipped has symbols too, in an archive of their own.
         $<$<CONFIG:Release>:-g>)

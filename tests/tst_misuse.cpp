@@ -4,7 +4,7 @@
 #include <random>
 
 namespace {
-constexpr int totalSteps = 20000;
+constexpr int totalSteps = hasSanitizer ? 8000 : 20000;
 const QVector<double> ratios{1.0, 0.5, 0.8, 0.0, -1.0, 1e-9, qQNaN(), qInf()};
 const QString words = QStringLiteral(" a <b>%1</b>&amp; https://mdm.example.com:444/0123456789abcdef0123456789abcdef "
                                      "file file-upload reply ")

@@ -9,7 +9,6 @@
 #include <QUrl>
 
 namespace {
-constexpr int defaultPort = 443;
 constexpr int highestPort = 65535;
 
 /// Any host goes, the empty one included: getServerUrl() tells the host program whether it is usable.

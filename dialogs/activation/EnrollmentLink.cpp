@@ -4,7 +4,6 @@
 
 namespace {
 constexpr int tokenLength = 32;
-constexpr int defaultPort = 443;
 
 bool isLetterOrDigit(QChar character)
 {

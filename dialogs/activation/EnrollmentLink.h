@@ -4,10 +4,13 @@
 
 #include <optional>
 
+/// The port of an address that names none.
+constexpr int defaultPort = 443;
+
 /// What an enrollment link says: `https://<host>[:<port>]/<path that ends in the token>`.
 struct EnrollmentLink {
     QString host;
-    /// In decimal; 443 when the link names none.
+    /// In decimal; the default port when the link names none.
     QString port;
     /// 32 characters.
     QString token;
