@@ -1,6 +1,9 @@
 #include "GuiTest.h"
+#include "UserInterfaceLanguage.h"
+#include "loadTranslation.h"
 
 namespace {
+const char* const variables[] = {"LANGUAGE", "LC_ALL", "LC_MESSAGES", "LANG"};
 const QStringList languages = QStringLiteral(LANGUAGES).split(QLatin1Char(' '));
 const QString directory = QStringLiteral(SOURCES "/resources/translations");
 
@@ -27,7 +30,8 @@ QStringList placeholders(const QString& text)
 }
 } // namespace
 
-/// The translation files: complete, in step with the sources, and what the library really carries.
+/// The translation files: complete, in step with the sources, what the library really carries, and which of them the
+/// desktop asks for.
 class CataloguesTest : public GuiTest {
     Q_OBJECT
 
@@ -98,6 +102,41 @@ private Q_SLOTS:
             number = number < 0 ? -1 : 2; // The other plural forms stand for numbers that depend on the language.
         }
         QVERIFY2(texts.contains(QStringLiteral("name")), "nothing was read");
+    }
+
+    void desktopLanguage_data()
+    {
+        textColumns({"LANGUAGE", "LC_ALL", "LC_MESSAGES", "LANG", "language", "cancel", "undo"});
+        textRow({"de:en", "it_IT", "", "", "de", "Abbrechen", "&Rückgängig"});
+        textRow({"fr-CA:de:en", "it_IT", "", "", "fr", "Annuler", "&Annuler"});
+        textRow({"", "zh_CN.UTF-8", "it_IT", "", "zh", "取消", "撤消(&U)"});
+        textRow({"", "", "ja_JP.eucJP", "nl", "ja", "キャンセル", "元に戻す(&U)"});
+        textRow({"", "", "", "pt@euro", "pt", "Cancelar", "&Desfazer"});
+        // English where the library does not speak the language, also for the words of Qt.
+        textRow({"pl:de", "", "", "", "pl", "Cancel", "&Undo"});
+        textRow({"", "C.UTF-8", "", "de_DE", "", "Cancel", "&Undo"});
+        textRow({"", "", "", "POSIX", "", "Cancel", "&Undo"});
+        textRow({"", "", "", "", "", "Cancel", "&Undo"});
+    }
+
+    void desktopLanguage()
+    {
+        for (const char* name : variables)
+            qputenv(name, static_cast<QString*>(QTest::qData(name, QMetaType::QString))->toLatin1());
+        QTEST(QString::fromStdString(userInterfaceLanguage()), "language");
+        QTranslator translator;
+        QVERIFY(!loadTranslation(translator, QStringLiteral(":/nothing/Gui_"), QStringLiteral("en")));
+        QVERIFY(loadTranslation(translator, QStringLiteral(":/translations/Gui_"), QStringLiteral("en")));
+        QTEST(translator.translate("ErrorMessageDialog", "Cancel"), "cancel");
+        QTEST(translator.translate("QLineEdit", "&Undo"), "undo");
+    }
+
+    void cleanup()
+    {
+        for (const char* name : variables)
+            qunsetenv(name);
+        qputenv("LANGUAGE", "en");
+        GuiTest::cleanup();
     }
 
 private:

@@ -1,7 +1,18 @@
 #include "GuiTest.h"
 
-/// What each dialog reports for clicks, keys, slots and requests to close, where it
-/// starts, and what the error message, the restart prompt and the options do besides.
+#include <climits>
+#include <cmath>
+#include <limits>
+
+namespace {
+QImage frame(int number)
+{
+    return QPixmap(QStringLiteral(":/images/progress bar/%1.png").arg(number)).toImage();
+}
+} // namespace
+
+/// What each dialog reports for clicks, keys, slots and requests to close, as the host guide says too, where it starts,
+/// and what the progress window, the restart prompt and the options do besides.
 class DialogsTest : public GuiTest {
     Q_OBJECT
 
@@ -11,6 +22,44 @@ class DialogsTest : public GuiTest {
         QCOMPARE(properties.isEmpty(), values.isEmpty());
         for (auto property = properties.begin(); property != properties.end(); ++property)
             dialogFamily(family).set(*dialog, property.key(), property.value());
+    }
+
+    static QImage nextPicture(IProgressDialog* dialog)
+    {
+        act(dialog, QStringLiteral("updateProgressAnimation()"));
+        return child<QLabel>(dialog, "messageIcon").pixmap()->toImage();
+    }
+
+    IProgressDialog* current = nullptr;
+    QStringList steps;
+
+    /// One row of test data per row of the table that has these columns.
+    static void guideRows(std::initializer_list<const char*> columns)
+    {
+        textColumns(columns);
+        QFile guide(QStringLiteral(GUIDE));
+        QVERIFY(guide.open(QIODevice::ReadOnly));
+        QString header;
+        for (const char* column : columns)
+            header += QStringLiteral("| ") + QString::fromUtf8(column) + QLatin1Char(' ');
+        const QString text = QString::fromUtf8(guide.readAll()).remove(QLatin1Char('`'));
+        const QString table = text.section(header + QStringLiteral("|\n"), 1).section(QStringLiteral("\n\n"), 0, 0);
+        QVERIFY2(!table.isEmpty(), qPrintable(header));
+        for (const QString& line : table.split(QLatin1Char('\n')).mid(1)) {
+            const QStringList cells = line.mid(2).chopped(2).split(QStringLiteral(" | "));
+            QTestData& row = QTest::newRow(qPrintable(cells.first()));
+            for (const QString& cell : cells)
+                row << cell;
+        }
+    }
+
+public Q_SLOTS:
+    void noteStep()
+    {
+        steps << child<QLabel>(current, "lblProgress").text();
+        // Once it starts over.
+        if (steps.size() == 3)
+            current->startWaiter(0.0F);
     }
 
 private Q_SLOTS:
@@ -188,8 +237,6 @@ private Q_SLOTS:
         auto* dialog = show<IRebootDialog>();
         dialog->setMessage(QStringLiteral("<b>Updates</b> were <i>installed</i>."));
         QCOMPARE(dialog->getMessage(), QStringLiteral("Updates were installed."));
-        dialog->setMessage(QStringLiteral("plain & simple < 5"));
-        QCOMPARE(dialog->getMessage(), QStringLiteral("plain & simple < 5"));
         const auto& text = child<QTextEdit>(dialog, "rebootReasonLabel");
         QVERIFY(text.isReadOnly());
         auto& bar = *text.verticalScrollBar();
@@ -257,6 +304,127 @@ private Q_SLOTS:
             dialog->setAutoUpdateHidden(hide);
             QCOMPARE(child(dialog, "chkAutoUpdate").isVisible(), !hide);
             QVERIFY(dialog->isAutoUpdate());
+        }
+    }
+
+    void percentage()
+    {
+        constexpr unsigned int huge = std::numeric_limits<unsigned int>::max();
+        auto* dialog = get<IProgressDialog>();
+        const auto check = [dialog](unsigned int value, unsigned int total, int percentage) {
+            dialog->setProgress(7, 100);
+            dialog->setProgress(value, total);
+            QCOMPARE(dialog->getProgress(), percentage);
+            QCOMPARE(child<QLabel>(dialog, "lblProgress").text(), QStringLiteral("%1%").arg(percentage));
+        };
+        // Totals below a hundred do nothing.
+        check(50, 0, 7);
+        check(99, 99, 7);
+        // Both are cut to whole numbers.
+        check(150, 199, 150);
+        check(1999, 1000, 199);
+        check(0, 100, 0);
+        check(huge, huge, 100);
+        check(huge, 200, 2147483647);
+        check(huge, 100, -1);
+        // A change is reported once.
+        QSignalSpy changed(&window(dialog), SIGNAL(progressChanged()));
+        for (const unsigned int total : {100U, 100U, 0U})
+            dialog->setProgress(50, total);
+        QCOMPARE(changed.count(), 1);
+    }
+
+    void waiterCounts()
+    {
+        current = get<IProgressDialog>();
+        current->setProgress(99, 100);
+        QSignalSpy complete(&window(current), SIGNAL(sigWaiterComplete()));
+        QVERIFY(connect(&window(current), SIGNAL(progressChanged()), this, SLOT(noteStep())));
+        current->startWaiter(0.01F);
+        QTRY_COMPARE(complete.count(), 1);
+        QCOMPARE(steps.join(QLatin1Char(' ')),
+                 QStringLiteral("0% 10% 20% 0% 10% 20% 30% 40% 50% 60% 70% 80% 90% 100%"));
+        const QTimer* waiter = nullptr;
+        for (const QTimer* timer : window(current).findChildren<QTimer*>()) {
+            if (timer->property("waiter_current_value").toInt() == 100)
+                waiter = timer;
+        }
+        QVERIFY(waiter && !waiter->isActive());
+        const QPair<float, int> intervals[] = {
+            {1.5F, 150}, {0.0199F, 1}, {std::nanf(""), 0}, {std::numeric_limits<float>::infinity(), INT_MAX}};
+        for (const auto& interval : intervals) {
+            current->startWaiter(interval.first);
+            QVERIFY(waiter->isActive() && waiter->property("waiter_current_value").toInt() == 0);
+            QCOMPARE(waiter->interval(), interval.second);
+        }
+    }
+
+    void spinnerTurns()
+    {
+        auto* dialog = get<IProgressDialog>();
+        for (int i = 0; i < 24 && nextPicture(dialog) != frame(24); ++i) { }
+        for (int i = 0; i < 48; ++i)
+            QCOMPARE(nextPicture(dialog), frame(i % 24 + 1));
+
+        // The next dialog takes the turn up where this one left it.
+        nextPicture(dialog);
+        QVERIFY(gui().deleteProgressDialogInstance());
+        QCOMPARE(nextPicture(get<IProgressDialog>()), frame(2));
+    }
+
+    void keysOfTheGuide_data()
+    {
+        guideRows({"dialog", "Return", "Escape", "close request", "×"});
+    }
+
+    void keysOfTheGuide()
+    {
+        QFETCH(QString, dialog);
+        const Family& family = dialogFamily(dialog);
+        // What a new dialog does about one of them, in the words of the table.
+        const auto answer = [&](QString action) {
+            family.remove(gui(), QString());
+            settle();
+            IBaseDialog* const target = get(dialog);
+            const QJsonObject values = family.values(*target);
+            for (const QString& required :
+                 {QStringLiteral("password"), QStringLiteral("subject"), QStringLiteral("issueDetails")})
+                if (values.contains(required))
+                    family.set(*target, required, QStringLiteral("x"));
+            showActive(target);
+            takeEvents();
+            if (action == QStringLiteral("×")) {
+                const QRegularExpression names(QStringLiteral("^(btnClose|closeButton)$"));
+                const auto corner = window(target).findChildren<QAbstractButton*>(names);
+                if (corner.isEmpty())
+                    return QStringLiteral("none");
+                action = corner.first()->objectName();
+            }
+            act(target, action);
+            QStringList results = takeEvents();
+            if (!window(target).isVisible())
+                results << QStringLiteral("hides");
+            return results.isEmpty() ? QStringLiteral("nothing") : results.join(QStringLiteral(", "));
+        };
+        for (const char* column : {"Return", "Escape", "close request", "×"})
+            QTEST(answer(QString::fromUtf8(column).section(QLatin1Char(' '), 0, 0)), column);
+        QTEST(answer(QStringLiteral("Enter")), "Return");
+    }
+
+    void actionsOfTheGuide_data()
+    {
+        guideRows({"action", "reply", "abort", "cancel", "error"});
+    }
+
+    void actionsOfTheGuide()
+    {
+        QFETCH(QString, action);
+        auto* session = get<IRemoteConnectionDialog>();
+        for (const char* status : {"reply", "abort", "cancel", "error"}) {
+            session->addLogEvent(0, QString(), action, QString(), QLatin1String(status));
+            const auto* log = child<QListView>(session, "logsListView").model();
+            const QString text = log->index(0, 0).data(Qt::UserRole + 1).toString().mid(20).trimmed();
+            QTEST(text.isEmpty() ? QStringLiteral("no words") : text, status);
         }
     }
 };

@@ -130,6 +130,10 @@ private Q_SLOTS:
         const QString arguments = QStringLiteral("gallery,%1,--dialog,ErrorMessageDialog").arg(pictures.path());
         const Run result = run(arguments.split(QLatin1Char(',')));
         QVERIFY2(result.exitCode == 0, result.errors.constData());
+        for (const char* ratio : {"0", "-1", "nan", "large"})
+            QCOMPARE(
+                run(arguments.split(QLatin1Char(',')) << QStringLiteral("--ratio") << QLatin1String(ratio)).exitCode,
+                2);
         QFile page(pictures.filePath(QStringLiteral("index.html")));
         QVERIFY(page.open(QIODevice::ReadOnly) && page.readAll().contains("ErrorMessageDialog-hover.png"));
     }

@@ -95,8 +95,9 @@ private Q_SLOTS:
     {
         add(QStringLiteral("x"));
         const int height = rowRect(0).height();
-        for (const QString& value : {QStringLiteral("<h1>&amp;%1\r\n\u202E</h1>"),
-                                     QString(1024 * 1024, QLatin1Char('w')), QString(40, QChar(0x30C6))}) {
+        for (const QString& value :
+             {QStringLiteral("<h1>&amp;%1\r\n\u202E</h1>"),
+              QString(QString(1024 * 1024, QLatin1Char('w')) + QStringLiteral("end")), QString(40, QChar(0x30C6))}) {
             session->addLogEvent(std::numeric_limits<qint64>::min(), value, value, value, value);
             const QRect row = rowRect(0);
             QCOMPARE(row.height(), height);
@@ -104,7 +105,7 @@ private Q_SLOTS:
             QCoreApplication::sendEvent(view->viewport(), &help);
             const QString toolTip = QToolTip::text();
             QVERIFY(!toolTip.contains(QLatin1String("<h1>")) && !toolTip.contains(QChar(0x202E)));
-            QCOMPARE(toolTip.startsWith(QChar(0x2026)) && toolTip.size() < 4500, value.size() > 4096);
+            QCOMPARE(toolTip.startsWith(QChar(0x2026)) && toolTip.endsWith(QLatin1String("wend")), value.size() > 4096);
             for (const QString& line : toolTip.split(QLatin1Char('\n')))
                 QVERIFY(QFontMetrics(QToolTip::font()).horizontalAdvance(line)
                         < QGuiApplication::primaryScreen()->size().width());

@@ -221,6 +221,7 @@ private Q_SLOTS:
                         || toolsClock.running);
             compare(window(session).isVisible(), isShown());
             compare(!isShown() || corner(session) == screenCorner(), true);
+            compare(QApplication::topLevelWidgets().size(), 1);
             for (const DialogEvent& event : qAsConst(events))
                 compare(dialogFamily(event.dialog).events.value(event.event) + QLatin1Char(' ') + event.sessionId,
                         expected.isEmpty() ? QString() : expected.takeFirst());
@@ -255,6 +256,8 @@ private Q_SLOTS:
         // The platform that the tests run on activates every window; those that people use ask this property.
         QVERIFY(top.windowHandle()->property("_q_showWithoutActivating").toBool());
         QCOMPARE(top.focusWidget(), &top);
+        session->setKeepEndedSessionPanels(true);
+        session->setKeepRemoteToolsPopup(true);
         // The key that ends a session must not end the next one when it is pressed again.
         for (const char* button :
              {"btnCloseRemoteControlPopup", "btnEndRemoteControlSession", "btnEndRemoteToolsSession"}) {

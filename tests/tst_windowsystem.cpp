@@ -64,6 +64,23 @@ private Q_SLOTS:
         QCOMPARE(takeEvents(), QStringList());
     }
 
+    void taskBarStaysFree()
+    {
+        QWidget bar;
+        bar.setAttribute(Qt::WA_X11NetWmWindowTypeDock);
+        bar.show();
+        const QStringList strut = QStringLiteral("-f _NET_WM_STRUT 32c -set _NET_WM_STRUT").split(QLatin1Char(' '));
+        const QStringList leftAndBottom{QStringLiteral("300, 0, 0, 100")};
+        run(QStringLiteral("xprop"),
+            QStringList{QStringLiteral("-id"), QString::number(bar.winId())} + strut + leftAndBottom);
+        QTRY_COMPARE(QGuiApplication::primaryScreen()->availableGeometry(), QRect(300, 0, 980, 800));
+        const QWidget& dialog = window(show<IErrorMessageDialog>());
+        QTRY_VERIFY((dialog.frameGeometry().center() - QPoint(790, 400)).manhattanLength() <= 2);
+        auto* session = get<IRemoteConnectionDialog>();
+        session->addRemoteControlSession(QStringLiteral("id"), QStringLiteral("user"), 1000, true);
+        QTRY_COMPARE(window(session).geometry().bottomRight(), QPoint(1279, 799));
+    }
+
     void dragging()
     {
         auto* prompt = get<IApproveRemoteConnectionDialog>();
