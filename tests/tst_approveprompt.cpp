@@ -1,7 +1,5 @@
 #include "GuiTest.h"
 
-#include <limits>
-
 namespace {
 using Prompt = IApproveRemoteConnectionDialog;
 using Limits = std::numeric_limits<qint64>;

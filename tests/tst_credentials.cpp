@@ -1,7 +1,5 @@
 #include "GuiTest.h"
 
-#include <limits>
-
 namespace {
 struct Note final : IAttachment {
     /// Expires with the note.

@@ -1,9 +1,5 @@
 #include "GuiTest.h"
 
-#include <climits>
-#include <cmath>
-#include <limits>
-
 namespace {
 QImage frame(int number)
 {
@@ -12,7 +8,7 @@ QImage frame(int number)
 } // namespace
 
 /// What each dialog reports for clicks, keys, slots and requests to close, as the host guide says too, where it starts,
-/// and what the progress window, the restart prompt and the options do besides.
+/// and what the progress window, the About box, the restart prompt and the options do besides.
 class DialogsTest : public GuiTest {
     Q_OBJECT
 
@@ -215,6 +211,31 @@ private Q_SLOTS:
         }
     }
 
+    void aboutTheProduct()
+    {
+        auto* dialog = show<IAboutDialog>();
+        // Built this year or, around New Year, last year.
+        const QRegularExpression year(QStringLiteral("^ (20\\d\\d) Brisel$"));
+        const int built = year.match(dialog->getCopyright()).captured(1).toInt();
+        QVERIFY(built >= 2024 && built <= QDate::currentDate().year());
+        auto& link = child<QLabel>(dialog, "lblWebSiteLink");
+        QTest::mouseClick(&link, Qt::LeftButton, Qt::NoModifier, QPoint(12, 8));
+        QCOMPARE(takeEvents(), QStringList{QStringLiteral("evLinkClicked")});
+        QVERIFY(!link.openExternalLinks());
+    }
+
+    void aboutComesToTheFront()
+    {
+        auto* dialog = get<IAboutDialog>();
+        window(dialog).showMinimized();
+        dialog->show();
+        QVERIFY(window(dialog).isVisible() && !window(dialog).isMinimized());
+        QTRY_VERIFY(window(dialog).isActiveWindow());
+        QVERIFY(gui().deleteAboutDialogInstance());
+        settle();
+        QVERIFY(!messages.filter(QLatin1String("About dialog destroyed")).isEmpty());
+    }
+
     void rebootPeriods()
     {
         auto* dialog = show<IRebootDialog>();
@@ -351,7 +372,10 @@ private Q_SLOTS:
         }
         QVERIFY(waiter && !waiter->isActive());
         const QPair<float, int> intervals[] = {
-            {1.5F, 150}, {0.0199F, 1}, {std::nanf(""), 0}, {std::numeric_limits<float>::infinity(), INT_MAX}};
+            {1.5F, 150},
+            {0.0199F, 1},
+            {std::nanf(""), 0},
+            {std::numeric_limits<float>::infinity(), std::numeric_limits<int>::max()}};
         for (const auto& interval : intervals) {
             current->startWaiter(interval.first);
             QVERIFY(waiter->isActive() && waiter->property("waiter_current_value").toInt() == 0);

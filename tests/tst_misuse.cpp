@@ -1,6 +1,5 @@
 #include "GuiTest.h"
 
-#include <functional>
 #include <random>
 
 namespace {

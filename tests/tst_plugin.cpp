@@ -1,8 +1,6 @@
 #include "GuiTest.h"
 
-#include <cmath>
 #include <cstring>
-#include <limits>
 
 /// The root object: registry, event wiring and the scale factor; and every property of the dialogs.
 class PluginTest : public GuiTest {

@@ -1,7 +1,5 @@
 #include "GuiTest.h"
 
-#include <limits>
-
 namespace {
 using Session = IRemoteConnectionDialog;
 

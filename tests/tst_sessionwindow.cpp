@@ -1,8 +1,5 @@
 #include "GuiTest.h"
 
-#include <limits>
-#include <utility>
-
 namespace {
 using Session = IRemoteConnectionDialog;
 

@@ -1,8 +1,6 @@
 #include "GuiTest.h"
 #include "ScriptPlayer.h"
 
-#include <cmath>
-
 namespace {
 const QDir references(QStringLiteral(REFERENCES "/") + qEnvironmentVariable("GUI_TEST_PICTURES"));
 constexpr int tileSide = 4;
@@ -214,6 +212,13 @@ private:
     }
 
 private Q_SLOTS:
+    void initTestCase()
+    {
+        static LastTranslator lastTranslator;
+        QCoreApplication::installTranslator(&lastTranslator);
+        GuiTest::initTestCase();
+    }
+
     void init()
     {
         GuiTest::init();
@@ -434,14 +439,5 @@ private Q_SLOTS:
     }
 };
 
-int main(int argc, char** argv)
-{
-    const QByteArray language = qgetenv("GUI_TEST_LANGUAGE");
-    prepareTestEnvironment(language.isEmpty() ? "en" : language);
-    QApplication application(argc, argv);
-    LastTranslator lastTranslator;
-    QCoreApplication::installTranslator(&lastTranslator);
-    StatesTest test;
-    return runTest(test, argc, argv);
-}
+GUI_TEST_MAIN(StatesTest)
 #include "tst_states.moc"

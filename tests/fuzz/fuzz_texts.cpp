@@ -5,13 +5,6 @@
 #include <QtWidgets>
 
 namespace {
-/// Ends the fuzzing when what must hold does not.
-void require(bool holds)
-{
-    if (!holds)
-        __builtin_trap();
-}
-
 /// The dialog of the plugin, in a program whose main() is the fuzzer's.
 IActivationDialog* makeDialog()
 {
@@ -24,7 +17,7 @@ IActivationDialog* makeDialog()
     QLoggingCategory::setFilterRules(QStringLiteral("*=false"));
     static QPluginLoader loader(QStringLiteral(GUI_PLUGIN));
     auto* gui = qobject_cast<GuiInterface*>(loader.instance());
-    require(gui);
+    Q_ASSERT(gui);
     return gui->getActivationDialogInstance();
 }
 
@@ -41,12 +34,12 @@ void checkAddress(const QString& text)
     if (!typed.isEmpty()) {
         // Whatever was typed: only an address of this very form comes out.
         const QUrl url(typed, QUrl::StrictMode);
-        require(url.isValid() && url.scheme() == QLatin1String("https") && !url.host().isEmpty());
-        require(url.path() == QLatin1String("/command/windows/") && url.port() >= 1 && url.port() <= 65535);
-        require(url.userInfo().isEmpty() && !url.hasQuery() && !url.hasFragment());
+        Q_ASSERT(url.isValid() && url.scheme() == QLatin1String("https") && !url.host().isEmpty());
+        Q_ASSERT(url.path() == QLatin1String("/command/windows/") && url.port() >= 1 && url.port() <= 65535);
+        Q_ASSERT(url.userInfo().isEmpty() && !url.hasQuery() && !url.hasFragment());
         // And it comes out the same when it goes in.
         dialog->setServerUrl(typed);
-        require(dialog->getServerUrl() == typed);
+        Q_ASSERT(dialog->getServerUrl() == typed);
     }
     dialog->setServerUrl(text);
     dialog->getServerUrl();
@@ -56,12 +49,13 @@ void checkBranding(const QByteArray& content)
 {
     static const QTemporaryDir directory;
     QFile file(directory.filePath(QStringLiteral("oem.strings")));
-    require(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("cannot write %s", qPrintable(file.fileName()));
     file.close();
     const BrandingStrings strings(directory.path());
-    require(!strings.companyName.isEmpty() && !strings.agentName.isEmpty());
-    require(strings.productFullName == strings.companyName + QLatin1Char(' ') + strings.agentName);
-    require(strings.vendorName == QLatin1String("BRISEL"));
+    Q_ASSERT(!strings.companyName.isEmpty() && !strings.agentName.isEmpty());
+    Q_ASSERT(strings.productFullName == strings.companyName + QLatin1Char(' ') + strings.agentName);
+    Q_ASSERT(strings.vendorName == QLatin1String("BRISEL"));
 }
 } // namespace
 

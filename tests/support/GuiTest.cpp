@@ -1,11 +1,11 @@
 #include "GuiTest.h"
 #include "Surroundings.h"
 
-void prepareTestEnvironment(const QByteArray& language)
+void prepareTestEnvironment()
 {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("LANGUAGE", language);
+    qputenv("LANGUAGE", qEnvironmentVariable("GUI_TEST_LANGUAGE", QStringLiteral("en")).toLatin1());
     prepareSurroundings();
 }
 

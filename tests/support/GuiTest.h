@@ -7,7 +7,9 @@
 #include <QtTest>
 #include <QtWidgets>
 
+#include <cmath>
 #include <functional>
+#include <limits>
 
 /// Whether this build watches memory, which makes it several times slower.
 inline constexpr bool hasSanitizer = GUI_SANITIZE;
@@ -245,8 +247,9 @@ private:
     std::function<void()> nextReaction;
 };
 
-/// What every test program starts with: no window system needed, and the same fonts on every machine.
-void prepareTestEnvironment(const QByteArray& language = "en");
+/// What every test program starts with: no window system needed, the same fonts on every machine, and English or the
+/// language of GUI_TEST_LANGUAGE.
+void prepareTestEnvironment();
 
 /// Runs the test functions of @p test, in an application that outlives its windows. The program's result.
 int runTest(QObject& test, int argc, char** argv);
