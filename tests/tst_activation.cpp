@@ -163,12 +163,13 @@ private Q_SLOTS:
 
     void pastedInvisiblesAreDropped_data()
     {
-        // The bar stands where typing goes on.
+        // The bar stands where typing goes on, two of them beside what is selected.
         textColumns({"before", "pasted", "after"});
         textRow({"|", "to\r\nken\r\n", "token|"});
         textRow({"|", "a\u2028b\u2029c\vd\fe\u0085f\ufeff\u200bg\u200c\u200dh\u2060", "abcdefgh|"});
         textRow({"12|34", "a\nb", "12ab|34"});
         textRow({"12|34", "\n\u200b", "12|34"});
+        textRow({"1|23|4", "a\nb", "1ab|4"});
         textRow({"|", " 8443\u00a0\t", "8443|"});
         textRow({"|", "mdm.example.com\tPort", "mdm.example.com Port|"});
         // There is no link in two lines, so none may come of them.
@@ -183,7 +184,8 @@ private Q_SLOTS:
         for (const char* name : fieldNames) {
             QLineEdit& edit = field(name);
             QTest::keyClicks(&edit, QString(before).remove(QLatin1Char('|')));
-            edit.setCursorPosition(before.indexOf(QLatin1Char('|')));
+            const int start = before.indexOf(QLatin1Char('|'));
+            edit.setSelection(start, qMax(0, before.lastIndexOf(QLatin1Char('|')) - start - 1));
             paste(edit, pasted);
             for (const QString& text : {before, after}) {
                 const auto undoOrRedo = text == before ? QKeySequence::Undo : QKeySequence::Redo;

@@ -117,7 +117,9 @@ private Q_SLOTS:
             for (int i = 0; i < (ratio > 1.0F ? 20 : 40); ++i) {
                 auto* prompt = get<Prompt>(QString::number(i));
                 prompt->setCountdown(30);
+                const QPoint own = window(prompt).pos();
                 prompt->show();
+                QVERIFY(i > 0 || window(prompt).pos() == own);
                 const QRect place = window(prompt).frameGeometry();
                 QVERIFY(QGuiApplication::primaryScreen()->availableGeometry().contains(place));
                 const QRect allow = onScreen(child(prompt, "allowButton"));

@@ -35,7 +35,7 @@ private Q_SLOTS:
         QTest::keyClicks(&edit, text);
         const QString getter = QStringLiteral("get") + property.at(0).toUpper() + property.mid(1);
         QCOMPARE(dialogFamily(name).operation(getter).call(*dialog, {}).toString(), text);
-        paste(edit, QStringLiteral("\r\none\ntwo\u2028"));
+        paste(edit, QStringLiteral("\r\none\ntwo\u2028\u2029"));
         const bool isPassword = property.endsWith(QLatin1String("assword"));
         QCOMPARE(edit.text(), text + (isPassword ? QStringLiteral("onetwo") : QStringLiteral("one two")));
         // Qt's own answer to the question for the last word never ends.

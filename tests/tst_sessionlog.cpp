@@ -225,7 +225,8 @@ private Q_SLOTS:
         QCOMPARE(log->indexOfChild(row), 2);
         QCOMPARE(log->child(2), row);
         view->setCurrentIndex(view->model()->index(2, 0));
-        QVERIFY(row->state().selected && !row->state().offscreen);
+        QVERIFY(row->state().selected && !row->state().offscreen && row->state().focused);
+        QVERIFY(log->focusChild() == row && !log->child(0)->state().focused);
         session->clearLog();
         QCOMPARE(log->childCount(), 0);
         // What is read is what is seen, without the blanks of missing parts.

@@ -398,6 +398,8 @@ private Q_SLOTS:
                 QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(5, 5), widget->mapToGlobal(QPoint(5, 5)));
                 QCoreApplication::sendEvent(widget, &event);
                 settle();
+                settle();
+                QVERIFY(!window(dialog).findChild<QMenu*>());
             }
         }
         QVERIFY(menus > 0);
