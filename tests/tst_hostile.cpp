@@ -205,6 +205,8 @@ private Q_SLOTS:
     void setters()
     {
         QFETCH(QString, family);
+        QFETCH(QString, operation);
+        QFETCH(int, position);
         const QMap<QString, QString> before = readingsWith(harmless);
         const QStringList holders = before.keys(harmless).filter(u"()"_s);
         QVERIFY2(holders.size() <= 1, qPrintable(holders.join(u' ')));
@@ -226,18 +228,8 @@ private Q_SLOTS:
                 QVERIFY2(matches, qPrintable(u"%1 at %2: %3"_s.arg(text, place, after[place])));
             }
         }
-    }
 
-    void longTexts_data()
-    {
-        setters_data();
-    }
-
-    void longTexts()
-    {
-        QFETCH(QString, family);
-        QFETCH(QString, operation);
-        QFETCH(int, position);
+        // Long ones take no longer than others of their length.
         const Operation& setter = dialogFamily(family).operation(operation);
         IBaseDialog* dialog = get(family, id);
         const auto timeFor = [&](const QString& piece) {

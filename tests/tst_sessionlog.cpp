@@ -168,7 +168,6 @@ private Q_SLOTS:
     void keys()
     {
         addMany(1000);
-        QVERIFY(view->uniformItemSizes());
         view->setCurrentIndex(view->model()->index(0, 0));
         const int page = view->viewport()->height() / rowRect(0).height();
         QVERIFY(page >= 5 && page <= 12);

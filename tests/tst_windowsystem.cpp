@@ -1,24 +1,5 @@
 #include "GuiTest.h"
 
-namespace {
-/// A window of the host program that fills the screen's middle.
-class HostWindow : public QWidget {
-public:
-    HostWindow()
-    {
-        const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
-        setGeometry(area.adjusted(40, 40, -40, -40));
-        show();
-        activateWindow();
-        if (!QTest::qWaitForWindowActive(this))
-            qFatal("the host's window did not become active");
-        edit.setFocus();
-    }
-
-    QLineEdit edit{this};
-};
-} // namespace
-
 /// The dialogs among other windows, under a real window manager and with real keys and clicks.
 class WindowSystemTest : public GuiTest {
     Q_OBJECT
@@ -26,7 +7,8 @@ class WindowSystemTest : public GuiTest {
 private Q_SLOTS:
     void staysOnTop()
     {
-        HostWindow host;
+        QLineEdit host;
+        showHost(host);
         auto* dialog = show<IErrorMessageDialog>();
         auto* session = get<IRemoteConnectionDialog>();
         session->addRemoteControlSession(QStringLiteral("id"), QStringLiteral("user"), 1000, true);
@@ -45,21 +27,22 @@ private Q_SLOTS:
 
     void sessionWindowLeavesTheFocus()
     {
-        HostWindow host;
+        QLineEdit host;
+        showHost(host);
         xdotool(QStringLiteral("key a"));
-        QTRY_COMPARE(host.edit.text(), QStringLiteral("a"));
+        QTRY_COMPARE(host.text(), QStringLiteral("a"));
         auto* session = get<IRemoteConnectionDialog>();
         session->addRemoteControlSession(QStringLiteral("id"), QStringLiteral("user"), 1000, true);
         session->startRemoteToolsSession(QStringLiteral("tools"), 1, QStringLiteral("user"), 1000, true);
         QTRY_VERIFY(stacking().contains(window(session).winId()));
         xdotool(QStringLiteral("key b space"));
-        QTRY_COMPARE(host.edit.text(), QStringLiteral("ab "));
+        QTRY_COMPARE(host.text(), QStringLiteral("ab "));
         xdotool(QStringLiteral("windowminimize %1").arg(window(session).winId()));
         QTRY_VERIFY(window(session).isMinimized());
         session->addRemoteControlSession(QStringLiteral("new"), QStringLiteral("user"), 1000, true);
         QTRY_VERIFY(!window(session).isMinimized() && window(session).windowHandle()->isExposed());
         xdotool(QStringLiteral("key c"));
-        QTRY_COMPARE(host.edit.text(), QStringLiteral("ab c"));
+        QTRY_COMPARE(host.text(), QStringLiteral("ab c"));
         QVERIFY(!window(session).isActiveWindow());
         QCOMPARE(takeEvents(), QStringList());
     }
@@ -110,14 +93,15 @@ private Q_SLOTS:
 
     void promptLeavesTheFocus()
     {
-        HostWindow host;
+        QLineEdit host;
+        showHost(host);
         auto* prompt = get<IApproveRemoteConnectionDialog>(QStringLiteral("id"));
         prompt->setCountdown(1000);
         for (const char* typed : {"a ", "a a "}) {
             prompt->show();
             QTRY_VERIFY(stacking().contains(window(prompt).winId()));
             xdotool(QStringLiteral("key a space"));
-            QTRY_COMPARE(host.edit.text(), QLatin1String(typed));
+            QTRY_COMPARE(host.text(), QLatin1String(typed));
             clickOn(child(prompt, "messageTextEdit"));
             QTRY_VERIFY(child(prompt, "cancelButton").hasFocus());
             xdotool(QStringLiteral("key y Escape space"));
@@ -131,6 +115,15 @@ private Q_SLOTS:
     }
 
 private:
+    /// A window of the host program that fills the screen's middle.
+    static void showHost(QWidget& host)
+    {
+        host.setGeometry(QGuiApplication::primaryScreen()->availableGeometry().adjusted(40, 40, -40, -40));
+        host.show();
+        host.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&host));
+    }
+
     QStringList awaitEvents()
     {
         return QTest::qWaitFor([this] { return !events.isEmpty(); }) ? takeEvents() : QStringList();
