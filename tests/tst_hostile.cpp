@@ -277,8 +277,11 @@ private:
             session->startRemoteToolsSession(id, 1, u"user"_s, 0, true);
             click(dialog, "fileTransferInfoPanelCheckBox");
         }
+        const Operation& setter = dialogFamily(family).operation(operation);
+        // Of an earlier text nothing is left.
+        if (operation.startsWith(u"set"_s))
+            setter.call(*dialog, argumentsWith(setter, position, u"earlier "_s.repeated(100)));
         const auto set = [&](const QString& argument) {
-            const Operation& setter = dialogFamily(family).operation(operation);
             setter.call(*dialog, argumentsWith(setter, position, argument));
             settle();
             look(window(dialog));
