@@ -58,8 +58,10 @@ private Q_SLOTS:
         row("latin-1", "companyName=\xDCml\xE4ut GmbH\n", "Ümläut GmbH", "", "not valid UTF-8");
         row("utf-16", QByteArray("\xFF\xFE=\0A\0\n\0", 8), "Ostrel", "", "UTF-16");
         row("noise", QByteArray("\0\1\2[\xFF\xFE=;\n]\"\\x", 13), "Ostrel", "", "not valid UTF-8");
-        row("an object", "companyName=@Variant(\\0\\0\\0\\b\\xff\\xff\\xff\\xfe)\nsupportPhone=1\n", "Ostrel", "1",
-            "companyName is ignored, because it is no text");
+        row("text and list as objects",
+            "companyName=@Variant(\\0\\0\\0\\n\\0\\0\\0\\x2\\0\\x41)\nsupportPhone=@Variant("
+            "\\0\\0\\0\\b\\xff\\xff\\xff\\xfe)\n",
+            "Ostrel", "", "companyName is ignored, because it is no text");
         const QByteArray megabyte(1 << 20, 'x');
         row("a megabyte long", "companyName=" + megabyte + "\n", megabyte.constData(), "");
     }

@@ -139,6 +139,8 @@ private Q_SLOTS:
         gui().setRatio(1.5F);
         QCOMPARE(gui().getRatio(), 1.5F);
         QCOMPARE(window(get<IAcceptMessageDialog>()).size(), QSize(751, 753));
+        const QPoint center = QGuiApplication::primaryScreen()->availableGeometry().center();
+        QVERIFY((window(get<IRebootDialog>()).geometry().center() - center).manhattanLength() <= 2);
         QCOMPARE(&window(get<IErrorMessageDialog>()), &before);
         QCOMPARE(before.geometry(), geometry);
         gui().setRatio(std::numeric_limits<float>::max());
