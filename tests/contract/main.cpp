@@ -63,7 +63,7 @@ void describeResources(QTextStream& out)
         names << files.next();
     names.sort();
     // Qt's own.
-    for (const QString& name : names.filter(QRegularExpression(QStringLiteral("^:/(?!qt-project.org)")))) {
+    for (const QString& name : names.filter(QRegularExpression(QStringLiteral("^:/(?!qt-project.org|qgradient|qpdf)")))) {
         const QImage image(name);
         out << "    " << name;
         if (!image.isNull())
