@@ -223,7 +223,8 @@ private Q_SLOTS:
             for (const QString& place : before.keys()) {
                 const bool isRich = place == u"log"_s || family == u"RebootDialog"_s;
                 const bool isSafe = family.contains(u"RemoteConnection"_s) && !place.endsWith(u"()"_s);
-                const QStringList forms = isSafe ? deceptions.value(text, QStringList(text)) : QStringList{text, text.trimmed()};
+                const QStringList forms =
+                    isSafe ? deceptions.value(text, QStringList(text)) : QStringList{text, text.trimmed()};
                 const bool matches = std::any_of(forms.cbegin(), forms.cend(), [&](const QString& form) {
                     const QString expected = QString(before[place]).replace(harmless, form);
                     // Blanks collapse in rich text. What is shortened can be read in full as a tool tip.
