@@ -14,8 +14,8 @@ find_package(${GUI_QT} ${oldest} QUIET COMPONENTS Test)
 set(GUI_QT_VERSION "${${GUI_QT}Core_VERSION}")
 string(REGEX MATCH "^[0-9]+\\.[0-9]+" GUI_QT_MINOR_VERSION "${GUI_QT_VERSION}")
 
-# Before Qt 5.15 these commands have names with the version only.
-if(NOT COMMAND qt_wrap_ui)
+# Up to Qt 5.14 these commands have names with the version only.
+if(GUI_QT_VERSION VERSION_LESS 5.15)
     macro(qt_wrap_ui)
         qt5_wrap_ui(${ARGN})
     endmacro()
