@@ -63,7 +63,7 @@ else()
     string(TOLOWER "${CMAKE_CXX_COMPILER_ID}${compiler_version}" compiler)
 endif()
 string(TOLOWER "${CMAKE_SYSTEM_NAME}-${CMAKE_SYSTEM_PROCESSOR}" system)
-set(archive "${package}-${PROJECT_VERSION}-${system}-${compiler}-qt${Qt5Core_VERSION}")
+set(archive "${package}-${PROJECT_VERSION}-${system}-${compiler}-qt${GUI_QT_VERSION}")
 configure_file(docs/archive.md.in README.md @ONLY)
 install(FILES "${PROJECT_BINARY_DIR}/README.md" CHANGELOG.md THIRD-PARTY.md DESTINATION .)
 

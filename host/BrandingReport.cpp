@@ -3,7 +3,6 @@
 #include <QFile>
 #include <QSettings>
 #include <QTemporaryFile>
-#include <QTextCodec>
 #include <QTextStream>
 
 #include <algorithm>
@@ -18,9 +17,7 @@ const QByteArray byteOrderMark("\xEF\xBB\xBF");
 
 bool isUtf8(const QByteArray& bytes)
 {
-    QTextCodec::ConverterState state;
-    QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
-    return state.invalidChars == 0 && state.remainingChars == 0;
+    return QString::fromUtf8(bytes.constData(), bytes.size()).toUtf8() == bytes;
 }
 } // namespace
 
@@ -31,15 +28,22 @@ BrandingReport::BrandingReport(const QString& path) : file(path)
         remarks << QStringLiteral("cannot be read: %1").arg(source.errorString());
         return;
     }
-    const QByteArray content = source.readAll();
+    QByteArray content = source.readAll();
     if (content.startsWith("\xFF\xFE") || content.startsWith("\xFE\xFF")) {
         remarks << QStringLiteral("this is UTF-16, of which nothing is understood: save it as UTF-8");
         for (const QString& key : knownKeys)
             values.append({key, QString()});
         return;
     }
-    if (!isUtf8(content))
+    // As the plugin does: without the mark, and as UTF-8 for QSettings.
+    const bool isMarked = content.startsWith(byteOrderMark);
+    if (isMarked)
+        content.remove(0, byteOrderMark.size());
+    if (!isUtf8(content)) {
         remarks << QStringLiteral("this is not valid UTF-8 and is taken for Latin-1: save it as UTF-8");
+        if (!isMarked)
+            content = QString::fromLatin1(content.constData(), content.size()).toUtf8();
+    }
     scan(content);
     read(content);
 }
@@ -54,7 +58,7 @@ void BrandingReport::scan(const QByteArray& content)
     for (const QByteArray& whole : content.split('\n')) {
         ++number;
         const QByteArray line = whole.trimmed();
-        if (!inQuotes && (line.isEmpty() || line.startsWith(';') || line.startsWith('[') || line == byteOrderMark))
+        if (!inQuotes && (line.isEmpty() || line.startsWith(';') || line.startsWith('[')))
             continue;
         if (!inQuotes && !line.contains('='))
             remark(number, QStringLiteral("ignored, because it has no \"=\""));
@@ -84,19 +88,17 @@ void BrandingReport::read(const QByteArray& content)
         return;
     }
     QSettings settings(copy.fileName(), QSettings::IniFormat);
-    if (isUtf8(content))
-        settings.setIniCodec("UTF-8");
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    settings.setIniCodec("UTF-8");
+#endif
 
-    const QString mark = QString::fromLatin1(byteOrderMark);
     for (const QString& key : knownKeys) {
-        QVariant value = settings.value(key);
-        if (value.toString().isEmpty() && settings.contains(mark + key))
-            value = settings.value(mark + key);
+        const QVariant value = settings.value(key);
         QString text = value.toString();
         if (text.startsWith(QLatin1String("@Variant(")) || (value.isValid() && !value.canConvert<QString>()))
             text.clear();
         values.append({key, text.isEmpty() ? QString() : text});
-        if (value.type() == QVariant::StringList && text.isEmpty())
+        if (value.userType() == QMetaType::QStringList && text.isEmpty())
             remarks << QStringLiteral("%1 is ignored, because a comma outside quotes makes a list: put it in quotes")
                            .arg(key);
         else if (value.isValid() && value.toString().isEmpty())
@@ -107,12 +109,10 @@ void BrandingReport::read(const QByteArray& content)
     // On Windows other capitals make the same key.
     const auto isKnown = [&](const QString& key) {
         return std::any_of(knownKeys.cbegin(), knownKeys.cend(), [&](const QString& known) {
-            return known.compare(key, Qt::CaseInsensitive) == 0
-                && (settings.contains(known) || settings.contains(mark + known));
+            return known.compare(key, Qt::CaseInsensitive) == 0 && settings.contains(known);
         });
     };
-    for (QString key : settings.allKeys()) {
-        key.remove(mark);
+    for (const QString& key : settings.allKeys()) {
         const int slash = key.lastIndexOf(QLatin1Char('/'));
         if (slash >= 0)
             remarks << QStringLiteral("%1 is ignored, because it is in the section [%2]")
@@ -125,11 +125,8 @@ void BrandingReport::read(const QByteArray& content)
 
 bool BrandingReport::print() const
 {
-    QTextStream out(stdout);
-#ifndef Q_OS_WIN
-    // A terminal without a locale would get question marks.
-    out.setCodec("UTF-8");
-#endif
+    QString text;
+    QTextStream out(&text);
     out << file << '\n';
     for (const auto& value : values)
         out << "  " << value.first.leftJustified(16)
@@ -138,5 +135,14 @@ bool BrandingReport::print() const
             << '\n';
     for (const QString& remark : remarks)
         out << remark << '\n';
+    QFile output;
+    if (!output.open(stdout, QIODevice::WriteOnly))
+        return false;
+#ifdef Q_OS_WIN
+    output.write(text.toLocal8Bit());
+#else
+    // A terminal without a locale would get question marks.
+    output.write(text.toUtf8());
+#endif
     return remarks.isEmpty();
 }

@@ -362,7 +362,7 @@ void ScriptPlayer::type(const QJsonObject& command)
         QTest::keyClicks(widget, text(command, "text"));
     if (command.contains(QLatin1String("keys"))) {
         const QKeySequence sequence(text(command, "keys"), QKeySequence::PortableText);
-        if (sequence.isEmpty() || sequence[0] == Qt::Key_unknown)
+        if (sequence.isEmpty() || sequence[0] == QKeySequence(Qt::Key_unknown)[0])
             throw ScriptError(QStringLiteral("there are no such keys"));
         QTest::keySequence(widget, sequence);
     }
@@ -372,7 +372,8 @@ void ScriptPlayer::hover(const QJsonObject& command)
 {
     QWidget& widget = childWidget(command);
     widget.setAttribute(Qt::WA_UnderMouse);
-    QEvent enter(QEvent::Enter);
+    const QPointF center = widget.rect().center();
+    QEnterEvent enter(center, widget.mapTo(widget.window(), center.toPoint()), widget.mapToGlobal(center.toPoint()));
     QApplication::sendEvent(&widget, &enter);
     widget.update();
 }

@@ -1,6 +1,6 @@
 # Sourced by ./run and ./test. Debian's names of what they need; the fonts are those of host/fonts.conf.
 build_packages="g++ cmake ninja-build qtbase5-dev qttools5-dev qttools5-dev-tools fonts-liberation fonts-dejavu-core fonts-noto-cjk"
-test_packages="clang libclang-rt-14-dev clang-format clang-tidy doxygen xvfb openbox xdotool wmctrl x11-utils dbus at-spi2-core gir1.2-atspi-2.0 python3-gi g++-mingw-w64-x86-64-win32 wine64"
+test_packages="qt6-base-dev libqt6opengl6-dev qt6-tools-dev clang libclang-rt-14-dev clang-format clang-tidy doxygen xvfb openbox xdotool wmctrl x11-utils dbus at-spi2-core gir1.2-atspi-2.0 python3-gi g++-mingw-w64-x86-64-win32 wine64"
 
 # Installs the packages named that are missing.
 require_packages() {

@@ -11,7 +11,7 @@ add_test(NAME consumer COMMAND ${CMAKE_COMMAND}
 set_tests_properties(consumer PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen;${leak_options}")
 
 find_program(MINGW_COMPILER x86_64-w64-mingw32-g++)
-if(MINGW_COMPILER AND NOT GUI_SANITIZE)
+if(MINGW_COMPILER AND GUI_QT STREQUAL "Qt5" AND NOT GUI_SANITIZE)
     list(GET Qt5Core_INCLUDE_DIRS 0 qt_headers)
     add_test(NAME windows COMMAND ${CMAKE_COMMAND}
         -D WORK_DIR=${CMAKE_CURRENT_BINARY_DIR}/windows

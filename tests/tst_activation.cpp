@@ -10,14 +10,18 @@ const QStringList filled{QStringLiteral("mdm.example.com"), QStringLiteral("8443
 /// What the clipboard gives according to the steps that hosts and administrators rely on; empty if it is not usable.
 QStringList expectedFields(const QString& text)
 {
-    QRegExp pattern(QStringLiteral("(https:\\S*[A-Za-z0-9]{32})"));
-    if (pattern.indexIn(text) < 0)
+    const QRegularExpression pattern(QStringLiteral("(https:\\S*[A-Za-z0-9]{32})"),
+                                     QRegularExpression::UseUnicodePropertiesOption);
+    const QRegularExpressionMatch match = pattern.match(text);
+    if (!match.hasMatch())
         return QStringList();
-    const QUrl url(pattern.cap(1), QUrl::TolerantMode);
+    const QUrl url(match.captured(1), QUrl::TolerantMode);
     const QString path = url.path(QUrl::FullyDecoded);
     if (!url.isValid() || url.host().isEmpty() || url.scheme() != QLatin1String("https") || path.size() <= 32)
         return QStringList();
-    return {url.host(QUrl::FullyDecoded), QString::number(url.port(443)), path.right(32)};
+    // The fields take no invisible characters.
+    const QString last = path.right(32).remove(QChar(0)).remove(QChar(0x200b));
+    return {url.host(QUrl::FullyDecoded), QString::number(url.port(443)), last};
 }
 } // namespace
 

@@ -55,6 +55,7 @@ private Q_SLOTS:
             "compnyName is ignored, because there is no such key");
         row("utf-8", "companyName=Ümläut GmbH\nsupportPhone=守護\n", "Ümläut GmbH", "守護");
         row("utf-8 with mark", QByteArray("\xEF\xBB\xBF") + "companyName=Ümläut GmbH\n", "Ümläut GmbH", "");
+        row("utf-8 with mark, damaged", QByteArray("\xEF\xBB\xBF") + "companyName=Ü\xFF\n", "Ü\uFFFD", "", "not valid");
         row("latin-1", "companyName=\xDCml\xE4ut GmbH\n", "Ümläut GmbH", "", "not valid UTF-8");
         row("utf-16", QByteArray("\xFF\xFE=\0A\0\n\0", 8), "Ostrel", "", "UTF-16");
         row("noise", QByteArray("\0\1\2[\xFF\xFE=;\n]\"\\x", 13), "Ostrel", "", "not valid UTF-8");

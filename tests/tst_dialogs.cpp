@@ -23,7 +23,7 @@ class DialogsTest : public GuiTest {
     static QImage nextPicture(IProgressDialog* dialog)
     {
         act(dialog, QStringLiteral("updateProgressAnimation()"));
-        return child<QLabel>(dialog, "messageIcon").pixmap()->toImage();
+        return child<QLabel>(dialog, "messageIcon").property("pixmap").value<QPixmap>().toImage();
     }
 
     IProgressDialog* current = nullptr;

@@ -21,7 +21,8 @@ private Q_SLOTS:
         GuiTest::initTestCase();
         // There is no public way into the state in which isSavingSession() holds.
         commitData = reinterpret_cast<decltype(commitData)>(
-            QLibrary::resolve(QStringLiteral("Qt5Gui"), 5, "_ZN22QGuiApplicationPrivate10commitDataEv"));
+            QLibrary::resolve(QStringLiteral("Qt%1Gui").arg(QT_VERSION_MAJOR), QT_VERSION_MAJOR,
+                              "_ZN22QGuiApplicationPrivate10commitDataEv"));
         if (!commitData)
             QSKIP("this Qt names its function otherwise");
         // The offscreen platform would only announce the end.

@@ -97,6 +97,7 @@ private Q_SLOTS:
              {QStringLiteral("<h1>&amp;%1\r\n\u202E</h1>"),
               QString(QString(1024 * 1024, QLatin1Char('w')) + QStringLiteral("end")), QString(40, QChar(0x30C6))}) {
             session->addLogEvent(std::numeric_limits<qint64>::min(), value, value, value, value);
+            QVERIFY(value.size() < 4096 || text(0, Qt::DisplayRole).endsWith(QLatin1String("wend</span></p>")));
             const QRect row = rowRect(0);
             QCOMPARE(row.height(), height);
             QHelpEvent help(QEvent::ToolTip, row.center(), view->viewport()->mapToGlobal(row.center()));

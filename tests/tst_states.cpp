@@ -137,7 +137,10 @@ QString toldOf(QAccessibleInterface* part)
     tell(state.checked, " checked");
     tell(state.editable, " editable");
     tell(state.passwordEdit, " password");
-    tell(state.defaultButton, " default");
+    // A window that is shown without being activated gets a default button from Qt 5, none from Qt 6.
+    const auto* widget = qobject_cast<const QWidget*>(part->object());
+    const bool wasActivated = widget && !widget->window()->testAttribute(Qt::WA_ShowWithoutActivating);
+    tell(state.defaultButton && (wasActivated || state.focused), " default");
     tell(state.focused, " focused");
     return told.replace(QRegularExpression(QStringLiteral("#\\d+|\\d+(?= seconds)")), QStringLiteral("N"));
 }

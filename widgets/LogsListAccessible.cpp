@@ -124,7 +124,7 @@ public:
 
     QAccessibleInterface* childAt(int x, int y) const override
     {
-        return child(view->indexAt(view->viewport()->mapFromGlobal({x, y})).row());
+        return child(view->indexAt(view->viewport()->mapFromGlobal(QPoint(x, y))).row());
     }
 
     QAccessibleInterface* focusChild() const override

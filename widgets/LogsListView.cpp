@@ -219,7 +219,7 @@ void LogsListView::paintEvent(QPaintEvent* event)
     layOutNow();
     QPainter painter(viewport());
     painter.fillRect(event->rect(), palette().base());
-    QStyleOptionViewItem option = viewOptions();
+    QStyleOptionViewItem option = rowOption();
     const QStyle::State state = option.state;
     const bool focused = hasFocus();
     const int last = qMin(rowAt(event->rect().bottom()), rowCount() - 1);
@@ -271,8 +271,19 @@ void LogsListView::prepareNextRow()
         idle.stop();
         return;
     }
-    delegate->prepare(viewOptions(), index);
+    delegate->prepare(rowOption(), index);
     nextRow += scrollingDown ? 1 : -1;
+}
+
+QStyleOptionViewItem LogsListView::rowOption() const
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    return viewOptions();
+#else
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+    return option;
+#endif
 }
 
 int LogsListView::rowCount() const
@@ -301,7 +312,7 @@ void LogsListView::measureRow()
 {
     if (rowHeight > 0 || rowCount() == 0)
         return;
-    QStyleOptionViewItem option = viewOptions();
+    QStyleOptionViewItem option = rowOption();
     // So wide that not even the longest row would wrap.
     option.rect = QRect(0, 0, QWIDGETSIZE_MAX, 0);
     rowHeight = qMax(1, itemDelegate()->sizeHint(option, model()->index(0, 0)).height());

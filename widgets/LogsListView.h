@@ -45,6 +45,8 @@ protected:
 private:
     Q_DISABLE_COPY(LogsListView)
 
+    /// What all rows are drawn with.
+    QStyleOptionViewItem rowOption() const;
     int rowCount() const;
     int rowsPerPage() const;
     void layOutNow() const;

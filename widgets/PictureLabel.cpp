@@ -2,14 +2,15 @@
 
 #include <QPainter>
 #include <QPixmapCache>
+#include <QVariant>
 
 void PictureLabel::paintEvent(QPaintEvent* event)
 {
-    if (!pixmap()) {
+    auto picture = property("pixmap").value<QPixmap>();
+    if (picture.isNull()) {
         QLabel::paintEvent(event);
         return;
     }
-    QPixmap picture = *pixmap();
     const QSize wanted = size() * devicePixelRatioF();
     if (picture.size() != wanted) {
         const QString key = QStringLiteral("PictureLabel %1 %2x%3")

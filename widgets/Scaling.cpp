@@ -36,13 +36,13 @@ QString scaledStyleSheet(const QString& styleSheet, float ratio)
     int end = 0;
     for (auto matches = pixels.globalMatch(styleSheet); matches.hasNext();) {
         const QRegularExpressionMatch match = matches.next();
-        const int unscaled = match.capturedRef(1).toInt();
+        const int unscaled = match.captured(1).toInt();
         // Truncated like the boxes: a border rounded up would take room from the text. But no font has 0 pixels.
         const int length = qMax(qMin(unscaled, 1), scaled(unscaled, ratio));
-        result += styleSheet.midRef(end, match.capturedStart() - end) + QString::number(length) + QLatin1String("px");
+        result += styleSheet.mid(end, match.capturedStart() - end) + QString::number(length) + QLatin1String("px");
         end = match.capturedEnd();
     }
-    result += styleSheet.midRef(end);
+    result += styleSheet.mid(end);
     // The arrows and indicators are coarse when they are enlarged, so the larger picture is taken. It is a border
     // image, which fills its place, as an image is never drawn larger than its picture.
     static const QRegularExpression picture(

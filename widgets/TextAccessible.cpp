@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QTextDocument>
 #include <QTextDocumentFragment>
+#include <QVariant>
 
 namespace {
 QString withoutMarkup(const QString& text)
@@ -41,7 +42,7 @@ QString LabelAccessible::text(QAccessible::Text type) const
 QAccessible::Role LabelAccessible::role() const
 {
     // A label can get its picture after the screen reader has heard of it.
-    return label()->pixmap() ? QAccessible::Graphic : TextAccessible::role();
+    return label()->property("pixmap").value<QPixmap>().isNull() ? TextAccessible::role() : QAccessible::Graphic;
 }
 
 QAccessible::State LabelAccessible::state() const

@@ -49,7 +49,7 @@ ActivationDialog::ActivationDialog(QWidget* parent) : BaseDialog(parent), ui(std
     for (LineEdit* edit : std::initializer_list<LineEdit*>{ui->edHost, ui->edPort, ui->edToken})
         connect(edit, &LineEdit::inserted, this, &ActivationDialog::takeLink);
 
-    auto* pasteShortcut = new QShortcut(QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_V), this);
+    auto* pasteShortcut = new QShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_V), this);
     connect(pasteShortcut, &QShortcut::activated, this, &ActivationDialog::slPasteEnrollDataFromClipboard);
 }
 

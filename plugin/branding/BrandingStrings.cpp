@@ -7,41 +7,41 @@
 #include <QProcessEnvironment>
 #include <QSettings>
 #include <QTemporaryFile>
-#include <QTextCodec>
 
 #include <new>
 
 namespace {
-bool isUtf8(const QByteArray& bytes)
+/// A file's content without a byte order mark, of which QSettings would make a part of the first key, and in UTF-8.
+/// What is not valid UTF-8 is Latin-1, unless it has a mark.
+QByteArray inUtf8(const QByteArray& content)
 {
-    QTextCodec::ConverterState state;
-    QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
-    return state.invalidChars == 0 && state.remainingChars == 0;
+    const QByteArray byteOrderMark("\xEF\xBB\xBF");
+    if (content.startsWith(byteOrderMark))
+        return content.mid(byteOrderMark.size());
+    const bool isUtf8 = QString::fromUtf8(content.constData(), content.size()).toUtf8() == content;
+    return isUtf8 ? content : QString::fromLatin1(content.constData(), content.size()).toUtf8();
 }
 
 void readFile(BrandingStrings& strings, const QString& path)
 {
     QFile file(path);
     const QByteArray content = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    // QSettings would deserialise @Variant(…), which can allocate any amount. A second @ makes it plain text; that is
-    // put into a copy, as the file belongs to the deployment.
+    // QSettings would deserialise @Variant(…), which can allocate any amount. A second @ makes it plain text. What has
+    // to be changed is changed in a copy, as the file belongs to the deployment.
     const QByteArray variant("@Variant(");
+    const QByteArray readable = inUtf8(content).replace(variant, '@' + variant);
     QTemporaryFile copy;
-    const bool harmless = !content.contains(variant);
-    if (!harmless
-        && (!copy.open() || copy.write(QByteArray(content).replace(variant, '@' + variant)) < 0 || !copy.flush()))
+    if (readable != content && (!copy.open() || copy.write(readable) < 0 || !copy.flush()))
         return;
 
-    QSettings settings(harmless ? path : copy.fileName(), QSettings::IniFormat);
-    // Without a codec QSettings takes the bytes for Latin-1, and few editors write that today.
-    if (isUtf8(content))
-        settings.setIniCodec("UTF-8");
+    QSettings settings(readable == content ? path : copy.fileName(), QSettings::IniFormat);
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    // Without a codec it reads Latin-1; from Qt 6 on it reads nothing but UTF-8.
+    settings.setIniCodec("UTF-8");
+#endif
 
     const auto read = [&](const char* key, QString& field) {
-        QString value = settings.value(QLatin1String(key), QString()).toString();
-        // QSettings takes the bytes of a byte order mark before the first key for a part of that key.
-        if (value.isEmpty())
-            value = settings.value(QLatin1String("\xEF\xBB\xBF") + QLatin1String(key), QString()).toString();
+        const QString value = settings.value(QLatin1String(key), QString()).toString();
         if (!value.isEmpty() && !value.startsWith(QLatin1String(variant)))
             field = value;
     };

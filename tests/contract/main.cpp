@@ -21,8 +21,8 @@ void describeResources(QTextStream& out)
     for (QDirIterator files(QStringLiteral(":/"), QDir::Files, QDirIterator::Subdirectories); files.hasNext();)
         names << files.next();
     names.sort();
-    // Qt's own.
-    for (const QString& name : names.filter(QRegularExpression(QStringLiteral("^:/(?!qt-project.org)")))) {
+    const QRegularExpression ours(QStringLiteral("^:/(?!qt-project.org|qgradient|qpdf)"));
+    for (const QString& name : names.filter(ours)) {
         const QImage image(name);
         out << "    " << name;
         if (!image.isNull())

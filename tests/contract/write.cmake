@@ -1,4 +1,9 @@
 # Writes FILE: what the program CONTRACT tells of PLUGIN, what the HEADERS declare, and what the linker knows of PLUGIN.
+# That depends on the QT that the plugin is built with, Qt5 or Qt6; what it knows with the other one is taken from
+# REFERENCE.
+file(READ "${REFERENCE}" reference)
+string(REGEX MATCH "\nlinker\n(    [^\n]+\n)+" with_qt5 "${reference}")
+string(REGEX MATCH "\nlinker with Qt 6\n(    [^\n]+\n)+" with_qt6 "${reference}")
 execute_process(COMMAND "${CONTRACT}" "${PLUGIN}" "${FILE}" RESULT_VARIABLE failed)
 
 # Virtual functions in their order, enumerators and base classes.
@@ -42,4 +47,9 @@ string(REGEX MATCHALL "[^ \n]+ [A-Za-z] [^\n]*\n" symbols "${symbols}")
 list(TRANSFORM symbols REPLACE "([^ ]+) .*" "    exports \\1\n")
 string(REGEX MATCHALL "NEEDED +libQt[^\n]+\n" libraries "${headers}")
 list(TRANSFORM libraries REPLACE "NEEDED +" "    needs ")
-file(APPEND "${FILE}" "\nlinker\n" ${symbols} ${libraries})
+if(QT STREQUAL "Qt6")
+    string(CONCAT with_qt6 "\nlinker with Qt 6\n" ${symbols} ${libraries})
+else()
+    string(CONCAT with_qt5 "\nlinker\n" ${symbols} ${libraries})
+endif()
+file(APPEND "${FILE}" "${with_qt5}" "${with_qt6}")

@@ -1,0 +1,28 @@
+# The Qt that everything is built with: Qt 5, also where Qt 6 is installed too, unless -DGUI_QT=Qt6 asks for Qt 6.
+set(GUI_QT Qt5 CACHE STRING "Qt5 or Qt6")
+set_property(CACHE GUI_QT PROPERTY STRINGS Qt5 Qt6)
+
+if(GUI_QT STREQUAL "Qt5")
+    set(oldest 5.12)
+elseif(GUI_QT STREQUAL "Qt6")
+    set(oldest 6.4)
+else()
+    message(FATAL_ERROR "GUI_QT is Qt5 or Qt6, not \"${GUI_QT}\".")
+endif()
+find_package(${GUI_QT} ${oldest} REQUIRED COMPONENTS Core Gui Widgets UiTools LinguistTools)
+find_package(${GUI_QT} ${oldest} QUIET COMPONENTS Test)
+set(GUI_QT_VERSION "${${GUI_QT}Core_VERSION}")
+string(REGEX MATCH "^[0-9]+\\.[0-9]+" GUI_QT_MINOR_VERSION "${GUI_QT_VERSION}")
+
+# Up to Qt 5.14 these commands have names with the version only.
+if(GUI_QT_VERSION VERSION_LESS 5.15)
+    macro(qt_wrap_ui)
+        qt5_wrap_ui(${ARGN})
+    endmacro()
+    macro(qt_add_resources)
+        qt5_add_resources(${ARGN})
+    endmacro()
+    macro(qt_add_translation)
+        qt5_add_translation(${ARGN})
+    endmacro()
+endif()
