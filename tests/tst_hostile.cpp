@@ -97,7 +97,9 @@ QMap<QString, QString> readings(const Family& family, IBaseDialog* dialog)
 {
     QMap<QString, QString> result;
     const auto& window = dynamic_cast<QWidget&>(*dialog);
-    result[u"title"_s] = window.windowTitle().replace(u"[*][*]"_s, u"[*]"_s);
+    // Of two placeholders of the mark for unsaved changes the window system is given one, of one nothing.
+    result[u"title"_s] =
+        window.windowTitle().replace(u"[*][*]"_s, u"\uFDD0"_s).remove(u"[*]"_s).replace(u"\uFDD0"_s, u"[*]"_s);
     for (const QWidget* widget : window.findChildren<QWidget*>()) {
         // The parts of Qt's own widgets change their order, for example when a scroll bar appears.
         if (widget->objectName().isEmpty() || widget->objectName().startsWith(u"qt_"_s))

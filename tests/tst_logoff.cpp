@@ -73,8 +73,7 @@ private Q_SLOTS:
             endSession();
         });
         click(dialog, "bnCancel");
-        QVERIFY(!QApplication::activeModalWidget());
-        QVERIFY(!window(dialog).isVisible());
+        QVERIFY(!QApplication::activeModalWidget() && !window(dialog).isVisible());
         QCOMPARE(takeEvents(), QStringList());
     }
 };

@@ -25,7 +25,6 @@ private Q_SLOTS:
         QVERIFY(!operations.remove(gui(), id));
 
         IBaseDialog* first = operations.get(gui(), id);
-        QVERIFY(first);
         QWidget& top = window(first);
         QCOMPARE(top.objectName(), family);
         QVERIFY(top.qt_metacast("IBaseDialog"));

@@ -162,8 +162,6 @@ private Q_SLOTS:
         for (int row : {3, 0, 1})
             view->selectionModel()->select(view->model()->index(row, 0), QItemSelectionModel::Select);
         QCOMPARE(copied(), (QStringList{text(0), text(1), text(3)}.join(QLatin1Char('\n'))));
-        QTest::keySequence(view, QKeySequence::SelectAll);
-        QCOMPARE(copied().count(QLatin1Char('\n')), 4);
     }
 
     void keys()
@@ -181,12 +179,6 @@ private Q_SLOTS:
             QTest::keyClick(view, step.first);
             QCOMPARE(view->currentIndex().row(), step.second);
             QVERIFY(view->viewport()->rect().contains(rowRect(step.second).center()));
-        }
-        const QPair<Qt::Key, int> selections[] = {
-            {Qt::Key_Down, 2}, {Qt::Key_Down, 3}, {Qt::Key_Up, 2}, {Qt::Key_End, 1000}};
-        for (const auto& step : selections) {
-            QTest::keyClick(view, step.first, Qt::ShiftModifier);
-            QCOMPARE(view->selectionModel()->selectedIndexes().size(), step.second);
         }
     }
 
