@@ -99,7 +99,8 @@ private Q_SLOTS:
         const char* const usualLink = ">https://support.brisel.example<";
         textRow({"", "", "", usualLink});
         textRow({"supportPhone=+49 30 1234567", "+49 30 1234567", "", usualLink});
-        textRow({"supportEmail=help@brisel.example", "", "help@brisel.example", usualLink});
+        textRow({"agentName=Agent with an exceedingly long name\nsupportEmail=help@brisel.example", "",
+                 "help@brisel.example", usualLink});
         textRow({"supportPhone=<b>1</b>\nsupportEmail=\"a&b, <i>%1</i>\"\n"
                  "supportWebsite=\"https://brisel.example/?a=1&b=%1<script>'\\\"\"",
                  "<b>1</b>", "a&b, <i>%1</i>", ">https://brisel.example/?a=1&amp;b=%1&lt;script&gt;'&quot;<"});
@@ -127,6 +128,7 @@ private Q_SLOTS:
         QTEST(child<QLabel>(dialog, "lblSupportPhone").text(), "phone");
         QTEST(child<QLabel>(dialog, "lblSupportEmail").text(), "email");
         QVERIFY(child<QLabel>(dialog, "lblWebSiteLink").text().contains(link));
+        QCOMPARE(child(dialog, "lblAppName").toolTip().isEmpty(), !branding.contains(QLatin1String("agentName")));
         // No gap and no overlap: the rows follow each other at one distance.
         int row = child(dialog, "label_3").y();
         for (const char* kind : {"Phone", "Email"}) {

@@ -268,9 +268,7 @@ private Q_SLOTS:
 
         dialog->setMessage(QStringLiteral("A line of the reason.<br>").repeated(500));
         QTRY_VERIFY(bar.isVisible());
-        for (int i = 0; i < 3; ++i)
-            press(dialog, Qt::Key_Tab);
-        QVERIFY(bar.hasFocus());
+        bar.setFocus();
         press(dialog, Qt::Key_End);
         QTRY_COMPARE(bar.value(), bar.maximum());
         checkEvents(dialog, QStringLiteral("Return"), QStringLiteral("evPostpone"));
@@ -292,6 +290,15 @@ private Q_SLOTS:
         port.selectAll();
         QTest::keyClicks(&port, QStringLiteral("-x99999"));
         QCOMPARE(dialog->getProxyPort(), 9999);
+    }
+
+    void longMessagesHaveToolTips()
+    {
+        auto* dialog = get<IErrorMessageDialog>();
+        for (const QString& message : {QString(5000, QLatin1Char('w')), QStringLiteral("short")}) {
+            dialog->setMessage(message);
+            QCOMPARE(child(dialog, "lblMessage").toolTip().isEmpty(), message.size() < 5000);
+        }
     }
 
     void modalBlocksTheHost()

@@ -97,7 +97,7 @@ QMap<QString, QString> readings(const Family& family, IBaseDialog* dialog)
 {
     QMap<QString, QString> result;
     const auto& window = dynamic_cast<QWidget&>(*dialog);
-    // Of two placeholders of the mark for unsaved changes the window system is given one, of one nothing.
+    // Of [*] nothing is seen, of two of them one.
     result[u"title"_s] =
         window.windowTitle().replace(u"[*][*]"_s, u"\uFDD0"_s).remove(u"[*]"_s).replace(u"\uFDD0"_s, u"[*]"_s);
     for (const QWidget* widget : window.findChildren<QWidget*>()) {

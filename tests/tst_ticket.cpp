@@ -116,7 +116,6 @@ private Q_SLOTS:
         QVERIFY(dialog->isIncludeDeviceData());
         click(dialog, "lbIncludeDeviceDataText");
         QVERIFY(!dialog->isIncludeDeviceData());
-        // A host may give up what is not complete.
         dialog->setSubject(QString());
         dialog->done(0);
         QVERIFY(!window(dialog).isVisible());

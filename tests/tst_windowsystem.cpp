@@ -52,10 +52,8 @@ private Q_SLOTS:
         QWidget bar;
         bar.setAttribute(Qt::WA_X11NetWmWindowTypeDock);
         bar.show();
-        const QStringList strut = QStringLiteral("-f _NET_WM_STRUT 32c -set _NET_WM_STRUT").split(QLatin1Char(' '));
-        const QStringList leftAndBottom{QStringLiteral("300, 0, 0, 100")};
-        run(QStringLiteral("xprop"),
-            QStringList{QStringLiteral("-id"), QString::number(bar.winId())} + strut + leftAndBottom);
+        const QString strut = QStringLiteral("-id %1 -f _NET_WM_STRUT 32c -set _NET_WM_STRUT 300,0,0,100");
+        run(QStringLiteral("xprop"), strut.arg(bar.winId()).split(QLatin1Char(' ')));
         QTRY_COMPARE(QGuiApplication::primaryScreen()->availableGeometry(), QRect(300, 0, 980, 800));
         const QWidget& dialog = window(show<IErrorMessageDialog>());
         QTRY_VERIFY((dialog.frameGeometry().center() - QPoint(790, 400)).manhattanLength() <= 2);

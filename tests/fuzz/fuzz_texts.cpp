@@ -12,8 +12,7 @@ IActivationDialog* makeDialog()
     static char name[] = "fuzz";
     static char* argv[] = {name, nullptr};
     // Never destroyed: libFuzzer leaves through exit(), when the thread's data that windows need is gone already.
-    static auto* const application = new QApplication(argc, argv);
-    Q_UNUSED(application)
+    [[maybe_unused]] static auto* const application = new QApplication(argc, argv);
     QLoggingCategory::setFilterRules(QStringLiteral("*=false"));
     static QPluginLoader loader(QStringLiteral(GUI_PLUGIN));
     auto* gui = qobject_cast<GuiInterface*>(loader.instance());
