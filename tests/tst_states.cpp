@@ -3,7 +3,7 @@
 
 namespace {
 const QDir references(QStringLiteral(REFERENCES "/") + qEnvironmentVariable("GUI_TEST_PICTURES"));
-// The references are drawn by Qt 5; Qt 6 sets some letters a pixel beside.
+// The references are drawn by Qt 5; with Qt 6 some lines of text stand a pixel lower.
 constexpr int tileSide = QT_VERSION_MAJOR == 5 ? 4 : 8;
 constexpr int tolerance = QT_VERSION_MAJOR == 5 ? 40 : 28; // of 255, in any channel of a tile's mean
 const bool isRenewing = qEnvironmentVariableIsSet("GUI_RENEW_PICTURES");
