@@ -306,13 +306,22 @@ private Q_SLOTS:
         QPushButton button;
         QSignalSpy clicked(&button, &QPushButton::clicked);
         button.show();
+        auto* dialog = get<IAcceptMessageDialog>();
         for (const bool modal : {true, false}) {
-            get<IAcceptMessageDialog>()->setModal(modal);
-            showActive(get<IAcceptMessageDialog>());
+            dialog->hide();
+            dialog->setModal(modal);
+            showActive(dialog);
             QTest::mouseClick(button.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
             QTRY_COMPARE(clicked.size(), modal ? 0 : 1);
-            get<IAcceptMessageDialog>()->hide();
         }
+        // Set on a window that is shown, it counts when the window appears anew, which exec() sees to.
+        dialog->setModal(true);
+        QTimer::singleShot(0, this, [&] {
+            dialog->setModal(false);
+            dialog->done(QApplication::activeModalWidget() ? 7 : 8);
+        });
+        QCOMPARE(dialog->exec(), 7);
+        QVERIFY(!QApplication::activeModalWidget());
     }
 
     void hiddenParts()

@@ -17,6 +17,7 @@
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QScreen>
+#include <QWindow>
 
 #include <algorithm>
 #include <cmath>
@@ -55,9 +56,16 @@ BaseDialog::BaseDialog(QWidget* parent) : QDialog(parent)
     installAccessible<LabelAccessible, QLabel>();
 }
 
+BaseDialog::~BaseDialog()
+{
+    keepShownModality();
+}
+
 void BaseDialog::setModal(bool modal)
 {
     setWindowModality(modal ? Qt::ApplicationModal : Qt::NonModal);
+    if (isVisible())
+        keepShownModality();
 }
 
 void BaseDialog::show()
@@ -78,7 +86,7 @@ void BaseDialog::done(int result)
 int BaseDialog::exec()
 {
     // A window becomes modal only when it appears.
-    if (isVisible() && !isModal())
+    if (isVisible() && shownModality == Qt::NonModal)
         QDialog::hide();
     return QDialog::exec();
 }
@@ -97,9 +105,12 @@ void BaseDialog::setRatio(float ratio)
 
 void BaseDialog::setVisible(bool visible)
 {
-    // Not in the show event: on X11 Qt would not know where a window is that was moved there.
-    if (visible && !isVisible())
+    if (visible && !isVisible()) {
+        // Not in the show event: on X11 Qt would not know where a window is that was moved there.
         moveIntoReach();
+        shownModality = windowModality();
+    }
+    keepShownModality();
     QDialog::setVisible(visible);
 }
 
@@ -234,6 +245,12 @@ QLineEdit* BaseDialog::firstEmpty(std::initializer_list<QLineEdit*> fields, QLin
     const auto isEmpty = [](const QLineEdit* field) { return field->text().isEmpty(); };
     const auto* const first = std::find_if(fields.begin(), fields.end(), isEmpty);
     return first != fields.end() ? *first : otherwise;
+}
+
+void BaseDialog::keepShownModality()
+{
+    if (windowHandle())
+        windowHandle()->setModality(shownModality);
 }
 
 void BaseDialog::startAfresh()

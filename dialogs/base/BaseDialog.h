@@ -25,6 +25,7 @@ class BaseDialog : public QDialog, public virtual IBaseDialog {
 
 public:
     explicit BaseDialog(QWidget* parent = nullptr);
+    ~BaseDialog() override;
 
     void setModal(bool modal) override;
     void show() override;
@@ -73,10 +74,14 @@ protected:
 private:
     Q_DISABLE_COPY(BaseDialog)
 
+    /// Qt lists a window that appears modal among those that block the others, and takes it off that list only when it
+    /// is still modal as it goes. A modality that is set in between counts from the next time it appears.
+    void keepShownModality();
     /// Brings focus, buttons and dragging back to where they were before the dialog was ever used.
     void startAfresh();
 
     /// Where in the dialog the mouse went down; (0, 0) while nothing is dragged.
     QPoint dragPosition;
+    Qt::WindowModality shownModality = Qt::NonModal;
     float scaledSoFar = 1.0F;
 };
