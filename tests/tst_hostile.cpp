@@ -36,8 +36,8 @@ bool takeOpened()
 
 /// Texts that deceive, and how they appear where a remote person may have written them: in one line, in several.
 const QMap<QString, QStringList> deceptions{
-    {u"abc\u202Egpj.exe\u202A \u2066x\u2069 \u200Ey\u200F"_s,
-     {u"abc\uFFFDgpj.exe\uFFFD \uFFFDx\uFFFD \uFFFDy\uFFFD"_s}},
+    {u"abc\u202Egpj.exe\u202A \u2066x\u2069 \u200Ey\u200F\uFDD0z"_s,
+     {u"abc\uFFFDgpj.exe\uFFFD \uFFFDx\uFFFD \uFFFDy\uFFFD\uFFFDz"_s}},
     {u"\x01\x08\x1b[31m\x7f\x9B"_s, {u"\uFFFD\uFFFD\uFFFD[31m\uFFFD\uFFFD"_s}},
     {u"before\0<b>after</b>"_s, {u"before\uFFFD<b>after</b>"_s}},
     {u"one\ntwo\r\nthree\rfour\tfive\u2028\u2029"_s,
@@ -239,7 +239,7 @@ private Q_SLOTS:
         const Operation& setter = dialogFamily(family).operation(operation);
         dialog = get(family, id);
         const auto timeFor = [&](const QString& piece) {
-            constexpr int length = hasSanitizer ? 1 << 17 : 1 << 20;
+            constexpr int length = hasSanitizer ? 1 << 17 : 1 << 18;
             const QJsonArray arguments =
                 argumentsWith(setter, position, piece.repeated(length / piece.size() + 1).left(length));
             // The processor's time, which other programs do not lengthen.

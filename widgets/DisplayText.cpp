@@ -13,6 +13,7 @@ bool isDeceptive(QChar character)
     const ushort code = character.unicode();
     return code < 0x20 || (code >= 0x7F && code < 0xA0) // C0, delete, C1
         || code == 0x2028 || code == 0x2029             // line and paragraph separator
+        || code == 0xFDD0 || code == 0xFDD1             // what QTextDocument ends its blocks with
         || code == 0x200E || code == 0x200F             // bidirectional marks,
         || (code >= 0x202A && code <= 0x202E)           // embeddings and overrides,
         || (code >= 0x2066 && code <= 0x2069);          // isolates
