@@ -4,6 +4,7 @@
 #include "DisplayText.h"
 
 #include <QFont>
+#include <QLocale>
 
 namespace {
 // Enough for the rows of a few screens.
@@ -11,7 +12,8 @@ constexpr int keptTexts = 200;
 
 QString timeText(const LogEntry& entry)
 {
-    return entry.time.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+    // Not QDateTime::toString(), with which Qt 5 writes the digits of the system's locale.
+    return QLocale::c().toString(entry.time.toLocalTime(), QStringLiteral("yyyy-MM-dd HH:mm:ss"));
 }
 
 QString plainText(const LogEntry& entry)

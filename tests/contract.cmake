@@ -1,14 +1,16 @@
 # What hosts rely on, as one file in which a change is seen. Renewed on purpose only.
-set(reference "${CMAKE_CURRENT_SOURCE_DIR}/contract.txt")
+set(reference "${CMAKE_CURRENT_SOURCE_DIR}/contract/contract.txt")
 set(actual "${CMAKE_CURRENT_BINARY_DIR}/contract.txt")
-add_executable(contract main.cpp)
+add_executable(contract contract/main.cpp)
 target_link_libraries(contract PRIVATE compile_settings testsupport)
+target_precompile_headers(contract REUSE_FROM testsupport)
+set_target_properties(contract PROPERTIES AUTOMOC OFF)
 function(contract_command variable file)
     set(${variable} ${CMAKE_COMMAND}
         -D "CONTRACT=$<TARGET_FILE:contract>" -D "PLUGIN=$<TARGET_FILE:Gui>" -D "HEADERS=${PROJECT_BINARY_DIR}/include"
         -D "NM=${CMAKE_NM}" -D "OBJDUMP=${CMAKE_OBJDUMP}" -D "FILE=${file}"
         -D "QT=${GUI_QT}" -D "REFERENCE=${reference}"
-        -P "${CMAKE_CURRENT_SOURCE_DIR}/write.cmake" PARENT_SCOPE)
+        -P "${CMAKE_CURRENT_SOURCE_DIR}/contract/write.cmake" PARENT_SCOPE)
 endfunction()
 contract_command(renew "${reference}")
 contract_command(write "${actual}")
