@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <QStringList>
 #include <QTextDocument>
+#include <QTextDocumentFragment>
 #include <QTextLayout>
 #include <QToolTip>
 #include <QWidget>
@@ -23,13 +24,11 @@ public:
     {
         if (event->type() != QEvent::ToolTip)
             return QObject::eventFilter(watched, event);
-        const QString text = static_cast<QWidget*>(watched)->toolTip();
-        const QPoint position = static_cast<QHelpEvent*>(event)->globalPos();
-        // What literalToolTip() has made safe wraps by itself.
+        QString text = static_cast<QWidget*>(watched)->toolTip();
+        // What literalToolTip() has escaped would not wrap in a long word. No character takes more than six so.
         if (Qt::mightBeRichText(text))
-            QToolTip::showText(position, text);
-        else
-            showPlainToolTip(position, text, Qt::ElideRight);
+            text = QTextDocumentFragment::fromHtml(text.left(8 * longestToolTip)).toPlainText();
+        showPlainToolTip(static_cast<QHelpEvent*>(event)->globalPos(), text, Qt::ElideRight);
         return true;
     }
 };
