@@ -2,7 +2,6 @@
 
 #include "Announcement.h"
 #include "DisplayText.h"
-#include "Scaling.h"
 #include "ui_ApproveRemoteConnectionDialog.h"
 
 #include <QApplication>
@@ -153,8 +152,13 @@ const QString& ApproveRemoteConnectionDialog::getConnectionId() const
 
 int ApproveRemoteConnectionDialog::exec()
 {
+    const QPointer<ApproveRemoteConnectionDialog> self(this);
     isEnteringExec = true;
-    return BaseDialog::exec();
+    const int result = BaseDialog::exec();
+    // Still set when the prompt runs in another exec() already.
+    if (self)
+        isEnteringExec = false;
+    return result;
 }
 
 void ApproveRemoteConnectionDialog::setVisible(bool visible)
@@ -207,13 +211,6 @@ void ApproveRemoteConnectionDialog::on_cancelButton_clicked()
 void ApproveRemoteConnectionDialog::setupWindow()
 {
     setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowStaysOnTopHint | Qt::CustomizeWindowHint);
-}
-
-void ApproveRemoteConnectionDialog::scaleBy(float ratio)
-{
-    const QPoint topLeft = topLeftAtRatio(ratio);
-    scalePixels(this, ratio, fullRatio());
-    move(topLeft);
 }
 
 QWidget* ApproveRemoteConnectionDialog::startWidget()

@@ -57,7 +57,6 @@ public Q_SLOTS:
 protected:
     QWidget* startWidget() override;
     void setupWindow() override;
-    void scaleBy(float ratio) override;
 
 private:
     void startCountdown();
