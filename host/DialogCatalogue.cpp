@@ -20,7 +20,6 @@
 
 #include <cmath>
 #include <limits>
-#include <tuple>
 #include <type_traits>
 #include <utility>
 
@@ -99,12 +98,19 @@ QJsonValue toJson(qint64 value)
     return value;
 }
 
-/// One argument from each value; the positions are there because a pack of types cannot be counted through by itself.
-template <class... Arguments, std::size_t... Positions>
-std::tuple<std::decay_t<Arguments>...> argumentsFromJson(const QJsonArray& values, std::index_sequence<Positions...>)
+/// Calls with one argument from each value; the positions are there because a pack of types cannot be counted through by
+/// itself.
+template <class Result, class... Arguments, class Interface, class Function, std::size_t... Positions>
+QJsonValue callWithJson(Interface& target, Function function, const QJsonArray& values,
+                        std::index_sequence<Positions...>)
 {
     Q_UNUSED(values)
-    return {fromJson<std::decay_t<Arguments>>(values.at(Positions))...};
+    if constexpr (std::is_void_v<Result>) {
+        (target.*function)(fromJson<std::decay_t<Arguments>>(values.at(Positions))...);
+        return QJsonValue();
+    } else {
+        return toJson((target.*function)(fromJson<std::decay_t<Arguments>>(values.at(Positions))...));
+    }
 }
 
 /// The JSON type of what a script gives for an argument of type T.
@@ -129,18 +135,9 @@ Operation makeOperation(const char* name, Function function)
     operation.name = QLatin1String(name);
     operation.argumentTypes = {jsonType<std::decay_t<Arguments>>()...};
     operation.isGetter = !std::is_void_v<Result> && sizeof...(Arguments) == 0;
-    operation.call = [function, name = operation.name](IBaseDialog& dialog, const QJsonArray& values) -> QJsonValue {
-        if (values.size() != static_cast<int>(sizeof...(Arguments)))
-            throw ScriptError(QStringLiteral("%1 takes %2 arguments").arg(name).arg(sizeof...(Arguments)));
-        auto& target = dynamic_cast<Interface&>(dialog);
-        auto arguments = argumentsFromJson<Arguments...>(values, std::index_sequence_for<Arguments...>());
-        const auto invoke = [&](auto&... argument) -> Result { return (target.*function)(argument...); };
-        if constexpr (std::is_void_v<Result>) {
-            std::apply(invoke, arguments);
-            return QJsonValue();
-        } else {
-            return toJson(std::apply(invoke, arguments));
-        }
+    operation.function = [function](IBaseDialog& dialog, const QJsonArray& values) {
+        return callWithJson<Result, Arguments...>(dynamic_cast<Interface&>(dialog), function, values,
+                                                  std::index_sequence_for<Arguments...>());
     };
     return operation;
 }
@@ -337,6 +334,13 @@ QString startingUpper(const QString& name)
     return name.left(1).toUpper() + name.mid(1);
 }
 } // namespace
+
+QJsonValue Operation::call(IBaseDialog& dialog, const QJsonArray& arguments) const
+{
+    if (arguments.size() != argumentTypes.size())
+        throw ScriptError(QStringLiteral("%1 takes %2 arguments").arg(name).arg(argumentTypes.size()));
+    return function(dialog, arguments);
+}
 
 QString Operation::property() const
 {

@@ -26,9 +26,11 @@ struct Operation {
     QString name;
     QVector<QJsonValue::Type> argumentTypes;
     bool isGetter = false;
-    /// Throws ScriptError when the arguments do not fit.
-    std::function<QJsonValue(IBaseDialog&, const QJsonArray&)> call;
+    /// Converts the values, calls the member function and converts its result. Throws ScriptError when one does not fit.
+    std::function<QJsonValue(IBaseDialog&, const QJsonArray&)> function;
 
+    /// Calls the operation. Throws ScriptError when the arguments do not fit.
+    QJsonValue call(IBaseDialog& dialog, const QJsonArray& arguments) const;
     /// The property that a getter reads: "message" for message() and getMessage(), "shutdown" for isShutdown().
     QString property() const;
     /// Whether the value is a secret that must not be printed.

@@ -47,7 +47,7 @@ const char* textProperty(const QWidget* widget)
 /// What painting the text of a widget changes.
 struct Ink {
     /// The pixels, in the widget: what is painted there, and what is without the text.
-    QVector<QPair<QColor, QColor>> pixels;
+    QVector<QPair<QRgb, QRgb>> pixels;
     QRect box;
 };
 
@@ -60,18 +60,19 @@ Ink inkOf(QWidget* widget, const char* property, bool inWindow = false)
         return ink;
     QWidget* painted = inWindow ? widget->window() : widget;
     const QRect area(widget->mapTo(painted, QPoint()), widget->size());
-    const auto paint = [&] { return painted->grab(area).toImage(); };
+    const auto paint = [&] { return painted->grab(area).toImage().convertToFormat(QImage::Format_ARGB32); };
     const QImage with = paint();
     // A blank keeps what an empty field would show instead away.
     widget->setProperty(property, text.type() == QVariant::Int ? QVariant(-1) : QVariant(QStringLiteral(" ")));
     const QImage without = paint();
     widget->setProperty(property, text);
+    const auto* before = reinterpret_cast<const QRgb*>(without.constBits());
+    const auto* after = reinterpret_cast<const QRgb*>(with.constBits());
     for (int i = 0; i < with.width() * with.height(); ++i) {
-        const QPoint position(i % with.width(), i / with.width());
-        if (with.pixel(position) == without.pixel(position))
-            continue;
-        ink.pixels.append({with.pixelColor(position), without.pixelColor(position)});
-        ink.box |= QRect(position, QSize(1, 1));
+        if (after[i] != before[i]) {
+            ink.pixels.append({after[i], before[i]});
+            ink.box |= QRect(i % with.width(), i / with.width(), 1, 1);
+        }
     }
     return ink;
 }
