@@ -153,6 +153,7 @@ private Q_SLOTS:
         };
         QTest::keyClicks(&edit, before);
         paste(edit, pasted);
+        QTest::keySequence(&edit, QKeySequence::Redo);
         QCOMPARE(text(), after);
         QTest::keyClicks(&edit, QStringLiteral("xxx"));
         for (int steps = 0; !text().isEmpty() && steps < 4; ++steps)

@@ -4,6 +4,7 @@
 
 #include <QContextMenuEvent>
 #include <QMenu>
+#include <QRegularExpressionValidator>
 #include <QScopedValueRollback>
 
 LineEdit::LineEdit(QWidget* parent) : QLineEdit(parent)
@@ -93,8 +94,21 @@ void LineEdit::replaceInsertion(int start, int end, const QString& kept)
     // Taking the insertion back first leaves one step in the history. It may reach further back than the insertion:
     // what was typed just before it is part of the same step, and comes again together with it.
     undo();
+    if (!hasSelectedText() && text() == wanted) {
+        clearRedo();
+        return;
+    }
     start = hasSelectedText() ? selectionStart() : cursorPosition();
     insert(wanted.mid(start, wanted.size() - text().size() + selectedText().size()));
+}
+
+void LineEdit::clearRedo()
+{
+    // Inserting an empty text does not clear it, any other does. What a validator refuses is not left for undo either.
+    const QRegularExpressionValidator nothing(QRegularExpression(QStringLiteral("(?!)")));
+    setValidator(&nothing);
+    insert(QStringLiteral(" "));
+    setValidator(nullptr);
 }
 
 void LineEdit::dropHalfPair(const QString& text)

@@ -2,8 +2,9 @@
 
 #include <QLineEdit>
 
-/// The one-line field of all dialogs. What a person types, pastes or drops is cleaned before it stays, and undo then
-/// goes from the cleaned text straight to what was there before. What the program sets is never changed.
+/// The one-line field of all dialogs. What a person types, pastes or drops is cleaned before it stays.
+/// Undo then goes from the cleaned text straight to what was there before, and redo brings back no
+/// more than the cleaned text. What the program sets is never changed.
 ///
 /// Assistive technology, and whatever poses as such, can fill a secret field but not read it: it learns how many
 /// characters there are, come and go, not which.
@@ -30,6 +31,7 @@ private:
     void noteInsertionStart();
     void cleanInsertion();
     void replaceInsertion(int start, int end, const QString& kept);
+    void clearRedo();
     /// Keeps the length limit from splitting the last character of a text that the program sets.
     void dropHalfPair(const QString& text);
 
