@@ -132,6 +132,7 @@ private Q_SLOTS:
         data.setText(link);
         for (const char* name : fieldNames) {
             QLineEdit& edit = field(name);
+            const auto insert = name == fieldNames[1] ? commit : paste;
             for (const bool dropped : {false, true}) {
                 for (const char* cleared : fieldNames)
                     field(cleared).clear();
@@ -142,7 +143,7 @@ private Q_SLOTS:
                 QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
                 QApplication::sendEvent(&edit, &enter);
                 QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-                dropped ? static_cast<void>(QApplication::sendEvent(&edit, &drop)) : paste(edit, link);
+                dropped ? static_cast<void>(QApplication::sendEvent(&edit, &drop)) : insert(edit, link);
                 QCOMPARE(fields(), filled);
                 for (int steps = 0; edit.text() != typed && steps < 3; ++steps)
                     QTest::keySequence(&edit, QKeySequence::Undo);
@@ -189,8 +190,9 @@ private Q_SLOTS:
             QLineEdit& edit = field(name);
             QTest::keyClicks(&edit, QString(before).remove(QLatin1Char('|')));
             const int start = before.indexOf(QLatin1Char('|'));
+            edit.setCursorPosition(start);
             edit.setSelection(start, qMax(0, before.lastIndexOf(QLatin1Char('|')) - start - 1));
-            paste(edit, pasted);
+            (name == fieldNames[1] ? commit : paste)(edit, pasted);
             // There is nothing to redo at first.
             for (const QString& text : {after, before, after}) {
                 QTest::keySequence(&edit, text == after ? QKeySequence::Redo : QKeySequence::Undo);

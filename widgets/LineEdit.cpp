@@ -3,6 +3,7 @@
 #include "LineEditAccessible.h"
 
 #include <QContextMenuEvent>
+#include <QInputMethodEvent>
 #include <QMenu>
 #include <QRegularExpressionValidator>
 #include <QScopedValueRollback>
@@ -11,7 +12,7 @@ LineEdit::LineEdit(QWidget* parent) : QLineEdit(parent)
 {
     installLineEditAccessible();
     // textEdited() comes for every way to insert, but does not tell what was inserted. That starts where selection or
-    // cursor stood before, and ends at the cursor.
+    // cursor stood before, and ends at the cursor. Only for input methods this comes too late: see inputMethodEvent().
     connect(this, &QLineEdit::selectionChanged, this, &LineEdit::noteInsertionStart);
     connect(this, &QLineEdit::cursorPositionChanged, this, &LineEdit::noteInsertionStart);
     connect(this, &QLineEdit::textEdited, this, &LineEdit::cleanInsertion);
@@ -55,6 +56,27 @@ void LineEdit::contextMenuEvent(QContextMenuEvent* event)
     menu->setParent(window(), menu->windowFlags());
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->popup(event->globalPos());
+}
+
+void LineEdit::inputMethodEvent(QInputMethodEvent* event)
+{
+    // QLineEdit moves the cursor to the end of what is committed before it emits textEdited(), so cleanInsertion()
+    // would find nothing. The text is cleaned, and cut without splitting a surrogate pair, before it gets in.
+    const QString committed = event->commitString();
+    const int start = qMax(0, insertionStart + event->replacementStart());
+    const int unselected = text().size() - selectedText().size();
+    const int replaced = qBound(0, unselected - start, event->replacementLength());
+    const int room = maxLength() - unselected + replaced;
+    QString kept = cleaned(committed);
+    if (kept.size() > room)
+        kept.truncate(kept.at(room).isLowSurrogate() ? room - 1 : room);
+    event->setCommitString(kept, event->replacementStart(), event->replacementLength());
+    {
+        const QScopedValueRollback<bool> own(replacing, true);
+        QLineEdit::inputMethodEvent(event);
+    }
+    if (!committed.isEmpty() && !isReadOnly())
+        Q_EMIT inserted(committed);
 }
 
 void LineEdit::noteInsertionStart()

@@ -2,8 +2,8 @@
 
 #include <QLineEdit>
 
-/// The one-line field of all dialogs. What a person types, pastes or drops is cleaned before it stays.
-/// Undo then goes from the cleaned text straight to what was there before, and redo brings back no
+/// The one-line field of all dialogs. What a person types, pastes, drops or enters with an input method is cleaned
+/// before it stays. Undo then goes from the cleaned text straight to what was there before, and redo brings back no
 /// more than the cleaned text. What the program sets is never changed.
 ///
 /// Assistive technology, and whatever poses as such, can fill a secret field but not read it: it learns how many
@@ -26,6 +26,7 @@ protected:
     virtual QString cleaned(const QString& text) const;
     static bool isLineBreak(QChar character);
     void contextMenuEvent(QContextMenuEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
 
 private:
     void noteInsertionStart();

@@ -152,6 +152,13 @@ protected:
         QGuiApplication::clipboard()->setText(text);
         QTest::keyClick(&field, Qt::Key_V, Qt::ControlModifier);
     }
+    /// Enters @p text as an input method does.
+    static void commit(QWidget& field, const QString& text)
+    {
+        QInputMethodEvent event;
+        event.setCommitString(text);
+        QApplication::sendEvent(&field, &event);
+    }
 
     /// Test data that is all text; rows are named by their texts.
     static void textColumns(std::initializer_list<const char*> names)
