@@ -117,6 +117,8 @@ void BaseDialog::setVisible(bool visible)
 void BaseDialog::mousePressEvent(QMouseEvent* event)
 {
     dragPosition = event->pos();
+    // Some widgets pass a press on to the dialog and keep its release.
+    qApp->installEventFilter(this);
 }
 
 void BaseDialog::mouseReleaseEvent(QMouseEvent*)
@@ -130,6 +132,16 @@ void BaseDialog::mouseMoveEvent(QMouseEvent* event)
     const QPoint frame = geometry().topLeft() - pos();
     if (!dragPosition.isNull())
         move(event->globalPos() - dragPosition - frame);
+}
+
+bool BaseDialog::eventFilter(QObject* watched, QEvent* event)
+{
+    // No release comes while another window is modal. Dragging then ends with the next press, before anything moves.
+    if (event->type() == QEvent::MouseButtonRelease || event->type() == QEvent::MouseButtonPress) {
+        qApp->removeEventFilter(this);
+        dragPosition = QPoint();
+    }
+    return QDialog::eventFilter(watched, event);
 }
 
 void BaseDialog::keyPressEvent(QKeyEvent* event)
