@@ -182,23 +182,22 @@ void BaseDialog::moveToScreenCenter()
     move(frame.topLeft());
 }
 
-void BaseDialog::showCaptionPrefix(QLabel* prefixLabel)
+void BaseDialog::showCaptionPrefix(QLabel* prefixLabel, const QLabel* titleLabel)
 {
     prefixLabel->setTextFormat(Qt::PlainText);
     prefixLabel->setText(captionPrefix);
-    if (prefixLabel->sizeHint().width() > prefixLabel->width())
-        prefixLabel->setToolTip(literalToolTip(captionPrefix.trimmed()));
+    captionName = qobject_cast<ElidedLabel*>(prefixLabel);
+    if (captionName)
+        captionName->keepOffTextOf(titleLabel);
+    updateNameToolTip();
 }
 
 void BaseDialog::setCaption(QLabel* prefixLabel, QLabel* titleLabel, const QString& title)
 {
-    showCaptionPrefix(prefixLabel);
     setTitle(title);
-    if (!titleLabel)
-        return;
-    titleLabel->setText(title);
-    if (auto* name = qobject_cast<ElidedLabel*>(prefixLabel))
-        name->keepOffTextOf(titleLabel);
+    if (titleLabel)
+        titleLabel->setText(title);
+    showCaptionPrefix(prefixLabel, titleLabel);
 }
 
 void BaseDialog::setTitle(const QString& title)
@@ -225,6 +224,7 @@ void BaseDialog::scaleBy(float ratio)
         place.first->resize(place.second.size());
         place.first->move(place.second.topLeft());
     }
+    updateNameToolTip();
 }
 
 float BaseDialog::fullRatio() const
@@ -257,6 +257,12 @@ QLineEdit* BaseDialog::firstEmpty(std::initializer_list<QLineEdit*> fields, QLin
     const auto isEmpty = [](const QLineEdit* field) { return field->text().isEmpty(); };
     const auto* const first = std::find_if(fields.begin(), fields.end(), isEmpty);
     return first != fields.end() ? *first : otherwise;
+}
+
+void BaseDialog::updateNameToolTip()
+{
+    if (captionName)
+        captionName->setToolTip(captionName->isElided() ? literalToolTip(captionPrefix.trimmed()) : QString());
 }
 
 void BaseDialog::keepShownModality()
