@@ -43,7 +43,8 @@ else()
         target_link_options(compile_settings INTERFACE
             LINKER:--dynamicbase,--nxcompat $<$<EQUAL:${CMAKE_SIZEOF_VOID_P},8>:LINKER:--high-entropy-va>)
     elseif(NOT APPLE)
-        target_link_options(compile_settings INTERFACE LINKER:-z,relro,-z,now)
+        # A library of which nothing is used is not loaded: what Debian's GCC tells the linker anyway, and its Clang not.
+        target_link_options(compile_settings INTERFACE LINKER:-z,relro,-z,now LINKER:--as-needed)
     endif()
 endif()
 
