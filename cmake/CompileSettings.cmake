@@ -12,6 +12,9 @@ target_compile_definitions(compile_settings INTERFACE
     QT_DEPRECATED_WARNINGS
     QT_DISABLE_DEPRECATED_BEFORE=0x050C00)
 
+# What is shipped has symbols too, in an archive of their own.
+set(with_symbols $<AND:$<CONFIG:Release>,$<BOOL:${GUI_SYMBOLS}>>)
+
 # Warnings high everywhere, and the hardening that each platform's tools have.
 if(MSVC)
     target_compile_options(compile_settings INTERFACE
@@ -19,10 +22,9 @@ if(MSVC)
         # A dialog inherits show(), hide() and others from its base by dominance, on purpose.
         /wd4250
         /sdl /guard:cf
-        # What is shipped has symbols too, in an archive of their own.
-        $<$<CONFIG:Release>:/Zi>)
+        $<${with_symbols}:/Zi>)
     target_link_options(compile_settings INTERFACE
-        $<$<CONFIG:Release>:/DEBUG> $<$<CONFIG:Release>:/OPT:REF> $<$<CONFIG:Release>:/OPT:ICF>
+        $<${with_symbols}:/DEBUG> $<$<CONFIG:Release>:/OPT:REF> $<$<CONFIG:Release>:/OPT:ICF>
         /guard:cf /DYNAMICBASE /NXCOMPAT $<$<EQUAL:${CMAKE_SIZEOF_VOID_P},8>:/HIGHENTROPYVA>)
 else()
     target_compile_options(compile_settings INTERFACE
@@ -31,8 +33,7 @@ else()
         # Qt's own macros are called so.
         $<$<CXX_COMPILER_ID:Clang>:-Wno-gnu-zero-variadic-macro-arguments>
         -fstack-protector-strong
-        # What is shipped has symbols too, in an archive of their own.
-        $<$<CONFIG:Release>:-g>)
+        $<${with_symbols}:-g>)
     # Needs an optimising build.
     target_compile_definitions(compile_settings INTERFACE $<$<NOT:$<CONFIG:Debug>>:_FORTIFY_SOURCE=2>)
     if(WIN32)
@@ -42,7 +43,8 @@ else()
         target_link_options(compile_settings INTERFACE
             LINKER:--dynamicbase,--nxcompat $<$<EQUAL:${CMAKE_SIZEOF_VOID_P},8>:LINKER:--high-entropy-va>)
     elseif(NOT APPLE)
-        target_link_options(compile_settings INTERFACE LINKER:-z,relro,-z,now)
+        # A library of which nothing is used is not loaded: what Debian's GCC tells the linker anyway, and its Clang not.
+        target_link_options(compile_settings INTERFACE LINKER:-z,relro,-z,now LINKER:--as-needed)
     endif()
 endif()
 

@@ -98,7 +98,7 @@ private Q_SLOTS:
         textColumns({"branding", "phone", "email", "link"});
         const char* const usualLink = ">https://support.brisel.example<";
         textRow({"", "", "", usualLink});
-        textRow({"supportPhone=+49 30 1234567", "+49 30 1234567", "", usualLink});
+        textRow({"supportPhone=+49 30 1234567\nagentName=Agent Name Lon", "+49 30 1234567", "", usualLink});
         textRow({"agentName=Agent with an exceedingly long name\nsupportEmail=help@brisel.example", "",
                  "help@brisel.example", usualLink});
         textRow({"supportPhone=<b>1</b>\nsupportEmail=\"a&b, <i>%1</i>\"\n"
@@ -128,7 +128,11 @@ private Q_SLOTS:
         QTEST(child<QLabel>(dialog, "lblSupportPhone").text(), "phone");
         QTEST(child<QLabel>(dialog, "lblSupportEmail").text(), "email");
         QVERIFY(child<QLabel>(dialog, "lblWebSiteLink").text().contains(link));
-        QCOMPARE(child(dialog, "lblAppName").toolTip().isEmpty(), !branding.contains(QLatin1String("agentName")));
+        // A name of 14 letters has no room beside a title, unless both are enlarged.
+        IZentPasswordDialog* narrow = brandedGui->getZentPasswordDialogInstance();
+        QCOMPARE(child(narrow, "lblAppName").toolTip().isEmpty(), !branding.contains(QLatin1String("agentName")));
+        narrow->setRatio(2);
+        QCOMPARE(child(narrow, "lblAppName").toolTip().isEmpty(), !branding.contains(QLatin1String("exceedingly")));
         // No gap and no overlap: the rows follow each other at one distance.
         int row = child(dialog, "label_3").y();
         for (const char* kind : {"Phone", "Email"}) {
@@ -140,7 +144,7 @@ private Q_SLOTS:
         }
         QCOMPARE(child(dialog, "lblWebSiteLink").y(), row + 27);
         QVERIFY(child(dialog, "btnOk").y() > child(dialog, "content").geometry().bottom());
-        QVERIFY(brandedGui->deleteAboutDialogInstance());
+        QVERIFY(brandedGui->deleteZentPasswordDialogInstance() && brandedGui->deleteAboutDialogInstance());
         settle();
     }
 };

@@ -1,12 +1,5 @@
 #include "GuiTest.h"
 
-namespace {
-QImage frame(int number)
-{
-    return QPixmap(QStringLiteral(":/images/progress bar/%1.png").arg(number)).toImage();
-}
-} // namespace
-
 /// What each dialog reports for clicks, keys, slots and requests to close, as the host guide says too, where it starts,
 /// and what the progress window, the About box, the restart prompt and the options do besides.
 class DialogsTest : public GuiTest {
@@ -18,6 +11,11 @@ class DialogsTest : public GuiTest {
         QCOMPARE(properties.isEmpty(), values.isEmpty());
         for (auto property = properties.begin(); property != properties.end(); ++property)
             dialogFamily(family).set(*dialog, property.key(), property.value());
+    }
+
+    static QImage frame(int number)
+    {
+        return QPixmap(QStringLiteral(":/images/progress bar/%1.png").arg(number)).toImage();
     }
 
     static QImage nextPicture(IProgressDialog* dialog)

@@ -12,10 +12,15 @@ public:
 
     /// Elides the text also where it would run into that of @p label, which stands to the right and overlaps this one.
     void keepOffTextOf(const QLabel* label);
+    /// Whether the label, as large as it is now, does not show all of its text.
+    bool isElided() const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    QRect textArea() const;
+    QString lineWithin(const QRect& area) const;
+
     const QLabel* neighbour = nullptr;
 };

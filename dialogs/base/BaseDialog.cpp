@@ -117,6 +117,8 @@ void BaseDialog::setVisible(bool visible)
 void BaseDialog::mousePressEvent(QMouseEvent* event)
 {
     dragPosition = event->pos();
+    // Some widgets pass a press on to the dialog and keep its release.
+    qApp->installEventFilter(this);
 }
 
 void BaseDialog::mouseReleaseEvent(QMouseEvent*)
@@ -130,6 +132,16 @@ void BaseDialog::mouseMoveEvent(QMouseEvent* event)
     const QPoint frame = geometry().topLeft() - pos();
     if (!dragPosition.isNull())
         move(event->globalPos() - dragPosition - frame);
+}
+
+bool BaseDialog::eventFilter(QObject* watched, QEvent* event)
+{
+    // No release comes while another window is modal. Dragging then ends with the next press, before anything moves.
+    if (event->type() == QEvent::MouseButtonRelease || event->type() == QEvent::MouseButtonPress) {
+        qApp->removeEventFilter(this);
+        dragPosition = QPoint();
+    }
+    return QDialog::eventFilter(watched, event);
 }
 
 void BaseDialog::keyPressEvent(QKeyEvent* event)
@@ -170,23 +182,22 @@ void BaseDialog::moveToScreenCenter()
     move(frame.topLeft());
 }
 
-void BaseDialog::showCaptionPrefix(QLabel* prefixLabel)
+void BaseDialog::showCaptionPrefix(QLabel* prefixLabel, const QLabel* titleLabel)
 {
     prefixLabel->setTextFormat(Qt::PlainText);
     prefixLabel->setText(captionPrefix);
-    if (prefixLabel->sizeHint().width() > prefixLabel->width())
-        prefixLabel->setToolTip(literalToolTip(captionPrefix.trimmed()));
+    captionName = qobject_cast<ElidedLabel*>(prefixLabel);
+    if (captionName)
+        captionName->keepOffTextOf(titleLabel);
+    updateNameToolTip();
 }
 
 void BaseDialog::setCaption(QLabel* prefixLabel, QLabel* titleLabel, const QString& title)
 {
-    showCaptionPrefix(prefixLabel);
     setTitle(title);
-    if (!titleLabel)
-        return;
-    titleLabel->setText(title);
-    if (auto* name = qobject_cast<ElidedLabel*>(prefixLabel))
-        name->keepOffTextOf(titleLabel);
+    if (titleLabel)
+        titleLabel->setText(title);
+    showCaptionPrefix(prefixLabel, titleLabel);
 }
 
 void BaseDialog::setTitle(const QString& title)
@@ -213,6 +224,7 @@ void BaseDialog::scaleBy(float ratio)
         place.first->resize(place.second.size());
         place.first->move(place.second.topLeft());
     }
+    updateNameToolTip();
 }
 
 float BaseDialog::fullRatio() const
@@ -245,6 +257,12 @@ QLineEdit* BaseDialog::firstEmpty(std::initializer_list<QLineEdit*> fields, QLin
     const auto isEmpty = [](const QLineEdit* field) { return field->text().isEmpty(); };
     const auto* const first = std::find_if(fields.begin(), fields.end(), isEmpty);
     return first != fields.end() ? *first : otherwise;
+}
+
+void BaseDialog::updateNameToolTip()
+{
+    if (captionName)
+        captionName->setToolTip(captionName->isElided() ? literalToolTip(captionPrefix.trimmed()) : QString());
 }
 
 void BaseDialog::keepShownModality()

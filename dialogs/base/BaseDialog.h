@@ -11,6 +11,7 @@ QT_BEGIN_NAMESPACE
 class QLabel;
 class QLineEdit;
 QT_END_NAMESPACE
+class ElidedLabel;
 
 /// A blank and the agent's name. The blank keeps the name off the logo that stands before it in a caption.
 extern const QString captionPrefix;
@@ -39,6 +40,8 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
+    /// While dragging, watches all mouse events of the program for the release that ends it.
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void showEvent(QShowEvent* event) override;
@@ -47,8 +50,8 @@ protected:
     virtual void setupWindow();
     /// Centres the window on the primary screen, task bars left out.
     virtual void moveToScreenCenter();
-    /// Shows the agent's name in a caption, with a tool tip when there is no room for all of it.
-    static void showCaptionPrefix(QLabel* prefixLabel);
+    /// Shows the agent's name in a caption, with a tool tip when there is no room for all of it before @p titleLabel.
+    void showCaptionPrefix(QLabel* prefixLabel, const QLabel* titleLabel = nullptr);
     /// Fills the labels of a caption, @p titleLabel where there is one, and the window title.
     virtual void setCaption(QLabel* prefixLabel, QLabel* titleLabel, const QString& title);
     /// Sets window title and tool tip.
@@ -74,6 +77,8 @@ protected:
 private:
     Q_DISABLE_COPY(BaseDialog)
 
+    /// Texts do not grow exactly as their labels do: the agent's name may fit at one ratio and not at another.
+    void updateNameToolTip();
     /// Qt lists a window that appears modal among those that block the others, and takes it off that list only when it
     /// is still modal as it goes. A modality that is set in between counts from the next time it appears.
     void keepShownModality();
@@ -84,4 +89,6 @@ private:
     QPoint dragPosition;
     Qt::WindowModality shownModality = Qt::NonModal;
     float scaledSoFar = 1.0F;
+    /// Shows the agent's name in the caption.
+    ElidedLabel* captionName = nullptr;
 };

@@ -16,7 +16,7 @@ class IServiceDeskTicketDialog : public virtual IBaseDialog {
 public:
     enum TEvent {
         evCancel = 0, ///< Cancel, Escape, the close button or a close request; nothing was edited, or the person
-                      ///< confirmed to discard it.
+                      ///< confirmed to discard it. Hiding the form takes that question back, and nothing is reported.
         evSubmit = 1, ///< Submitted; subject and details are not empty and keep their limits. By Return or Enter the
                       ///< form has hidden itself; show() brings it back as it was.
     };

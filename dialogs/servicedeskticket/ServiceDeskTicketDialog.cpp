@@ -7,7 +7,6 @@
 
 #include <QKeyEvent>
 #include <QMessageBox>
-#include <QPointer>
 #include <QScopedValueRollback>
 
 #include <utility>
@@ -192,16 +191,23 @@ void ServiceDeskTicketDialog::slSubmit()
 
 void ServiceDeskTicketDialog::slClose()
 {
+    if (question && question->isVisible())
+        return;
     if (changed && !confirmDiscard())
         return;
     changed = false;
+    ui->txIssueDetails->document()->setModified(false);
     Q_EMIT dialogEvent(this, evCancel);
 }
 
 void ServiceDeskTicketDialog::slIssueDetailsTextChanged()
 {
     ui->txIssueDetails->cutSurplus();
-    validate();
+    // Qt reports a change also when an input method shows or takes back what is not in the text yet.
+    if (ui->txIssueDetails->document()->isModified())
+        validate();
+    else
+        updateSubmitButton();
 }
 
 bool ServiceDeskTicketDialog::validate()
@@ -221,6 +227,14 @@ void ServiceDeskTicketDialog::showEvent(QShowEvent* event)
     BaseDialog::showEvent(event);
     fadePlaceholder(ui->edSubject);
     fadePlaceholder(ui->txIssueDetails);
+}
+
+void ServiceDeskTicketDialog::hideEvent(QHideEvent* event)
+{
+    // An answer that came later would be about the form as the host shows it by then.
+    if (question && !event->spontaneous())
+        question->reject();
+    BaseDialog::hideEvent(event);
 }
 
 void ServiceDeskTicketDialog::keyPressEvent(QKeyEvent* event)
@@ -259,8 +273,7 @@ bool ServiceDeskTicketDialog::isIssueDetailsValid() const
 
 bool ServiceDeskTicketDialog::confirmDiscard()
 {
-    // The host may delete the dialog, and the question with it, while the question waits for its answer.
-    const QPointer<QMessageBox> question(new QMessageBox(this));
+    question = new QMessageBox(this);
     question->setWindowFlags(question->windowFlags() | Qt::WindowStaysOnTopHint);
     question->setWindowTitle(literalWindowTitle(brandingStrings().companyName + QLatin1String(" Client")));
     question->setTextFormat(Qt::RichText);
@@ -281,8 +294,11 @@ bool ServiceDeskTicketDialog::confirmDiscard()
     for (QWidget* part : parts)
         part->setFont(font());
 
-    const bool discard = question->exec() == QMessageBox::Discard;
-    delete question;
+    // While the question waits for its answer, the host may delete the dialog with it, or show the form for another
+    // matter, which then asks a question of its own.
+    const QPointer<QMessageBox> asked = question;
+    const bool discard = asked->exec() == QMessageBox::Discard;
+    delete asked;
     return discard;
 }
 

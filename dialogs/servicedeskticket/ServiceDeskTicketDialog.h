@@ -3,10 +3,13 @@
 #include "BaseDialog.h"
 #include "IServiceDeskTicketDialog.h"
 
+#include <QPointer>
+
 #include <memory>
 
 QT_BEGIN_NAMESPACE
 class QComboBox;
+class QMessageBox;
 namespace Ui {
 class ServiceDeskTicketDialog;
 }
@@ -55,6 +58,7 @@ public Q_SLOTS:
 protected:
     QWidget* startWidget() override;
     void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
@@ -68,6 +72,8 @@ private:
     const std::unique_ptr<Ui::ServiceDeskTicketDialog> ui;
     /// Whether the person edited something that closing would lose.
     bool changed = false;
+    /// Whether to discard the changes. Hiding the form takes it back, as if the person had kept them.
+    QPointer<QMessageBox> question;
     int issueDetailsMaxLength = 0;
     /// While the host's slot for evSubmit runs.
     bool submitting = false;
