@@ -98,8 +98,8 @@ QJsonValue toJson(qint64 value)
     return value;
 }
 
-/// Calls with one argument from each value; the positions are there because a pack of types cannot be counted through by
-/// itself.
+/// Calls with one argument from each value; the positions are there because a pack of types cannot be counted through
+/// by itself.
 template <class Result, class... Arguments, class Interface, class Function, std::size_t... Positions>
 QJsonValue callWithJson(Interface& target, Function function, const QJsonArray& values,
                         std::index_sequence<Positions...>)

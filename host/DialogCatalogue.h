@@ -26,7 +26,8 @@ struct Operation {
     QString name;
     QVector<QJsonValue::Type> argumentTypes;
     bool isGetter = false;
-    /// Converts the values, calls the member function and converts its result. Throws ScriptError when one does not fit.
+    /// Converts the values, calls the member function and converts its result. Throws ScriptError when one does not
+    /// fit.
     std::function<QJsonValue(IBaseDialog&, const QJsonArray&)> function;
 
     /// Calls the operation. Throws ScriptError when the arguments do not fit.

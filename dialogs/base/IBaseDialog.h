@@ -17,8 +17,8 @@ public:
     virtual ~IBaseDialog() = default;
 
     /// Makes the dialog block the host's other windows while it is shown (true) or not (false). Takes effect at the
-    /// next show(). A blocked window answers nothing, also one that appears while a modal one is open, unless it is modal
-    /// itself: then it comes before the other.
+    /// next show(). A blocked window answers nothing, also one that appears while a modal one is open, unless it is
+    /// modal itself: then it comes before the other.
     virtual void setModal(bool modal) = 0;
 
     /// Shows the dialog and returns at once. The focus goes to where it starts, whatever was used the last time: on the
