@@ -1,6 +1,7 @@
 #include "BrandingReport.h"
 
 #include <QFile>
+#include <QRegularExpression>
 #include <QSettings>
 #include <QTemporaryFile>
 #include <QTextStream>
@@ -12,6 +13,9 @@ namespace {
 const QStringList knownKeys{QStringLiteral("companyName"), QStringLiteral("agentName"),
                             QStringLiteral("supportWebsite"), QStringLiteral("supportEmail"),
                             QStringLiteral("supportPhone")};
+
+// Stands before what QSettings would deserialise; a noncharacter, which no text has.
+constexpr QChar mark(0xFDD0);
 
 const QByteArray byteOrderMark("\xEF\xBB\xBF");
 
@@ -80,10 +84,11 @@ void BrandingReport::scan(const QByteArray& content)
 
 void BrandingReport::read(const QByteArray& content)
 {
-    // Read by QSettings as the plugin does, but from a copy in which a serialised object is only a text: a few bytes of
-    // one may ask for any amount of memory.
+    // Read by QSettings as the plugin does, from a copy in which a serialised object is only a text: a few bytes of one
+    // may ask for any amount of memory. Quotes and escapes can hide its beginning.
+    const QRegularExpression suspect(QStringLiteral(R"([=,][ \t]*+\K(?=[" \t]*+(?:\\|@["\\DV])))"));
     QTemporaryFile copy;
-    if (!copy.open() || copy.write(QByteArray(content).replace("@Variant(", "@@Variant(")) < 0 || !copy.flush()) {
+    if (!copy.open() || copy.write(QString::fromUtf8(content).replace(suspect, mark).toUtf8()) < 0 || !copy.flush()) {
         remarks << copy.errorString();
         return;
     }
@@ -95,8 +100,10 @@ void BrandingReport::read(const QByteArray& content)
     for (const QString& key : knownKeys) {
         const QVariant value = settings.value(key);
         QString text = value.toString();
-        if (text.startsWith(QLatin1String("@Variant(")) || (value.isValid() && !value.canConvert<QString>()))
+        if (text.startsWith(mark + QLatin1String("@Variant(")) || text.startsWith(mark + QLatin1String("@DateTime("))
+            || (value.isValid() && !value.canConvert<QString>()))
             text.clear();
+        text.remove(mark);
         values.append({key, text.isEmpty() ? QString() : text});
         if (value.userType() == QMetaType::QStringList && text.isEmpty())
             remarks << QStringLiteral("%1 is ignored, because a comma outside quotes makes a list: put it in quotes")

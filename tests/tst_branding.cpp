@@ -59,10 +59,18 @@ private Q_SLOTS:
         row("latin-1", "companyName=\xDCml\xE4ut GmbH\n", "Ümläut GmbH", "", "not valid UTF-8");
         row("utf-16", QByteArray("\xFF\xFE=\0A\0\n\0", 8), "Ostrel", "", "UTF-16");
         row("noise", QByteArray("\0\1\2[\xFF\xFE=;\n]\"\\x", 13), "Ostrel", "", "not valid UTF-8");
-        row("text and list as objects",
-            "companyName=@Variant(\\0\\0\\0\\n\\0\\0\\0\\x2\\0\\x41)\nsupportPhone=@Variant("
-            "\\0\\0\\0\\b\\xff\\xff\\xff\\xfe)\n",
-            "Ostrel", "", "companyName is ignored, because it is no text");
+        // However it is written, a serialised object keeps the default, and nothing else does.
+        for (const QByteArray name :
+             {"@Variant(", "\\x40Variant(", "\"\\100Vari\"\\x61nt(", "@DateTime(", "\"@\"Date\\\nTime("})
+            row(name.constData(),
+                "companyName= " + name + "\\0\\0\\0\\n" + (name.contains("Date") ? "\\0" : "")
+                    + "\\0\\0\\0\\x2\\0\\x41)\nsupportPhone=a@Variant(b)\n",
+                "Ostrel", "a@Variant(b)", "companyName is ignored, because it is no text");
+        row("list with an object", "companyName=1, @Variant(\\0\\0\\0\\b\\xff\\xff\\xff\\xfe)\n", "Ostrel", "",
+            "comma");
+        row("at signs", "companyName=@@Variant(@)\nsupportPhone=\\\\x40 @Variant(\\x40)\n", "@Variant(@)",
+            "\\x40 @Variant(@)");
+        row("bytes", "companyName=@ByteArray(Acme)\nsupportPhone=\"@Vista \\\" = @D\"\n", "Acme", "@Vista \" = @D");
         const QByteArray megabyte(1 << 20, 'x');
         row("a megabyte long", "companyName=" + megabyte + "\n", megabyte.constData(), "");
     }

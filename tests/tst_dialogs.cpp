@@ -264,6 +264,18 @@ private Q_SLOTS:
         dialog->setMessage(QStringLiteral("<img src='data:image/png;base64,%1'>").arg(data));
         QVERIFY(text.document()->size().height() < 100);
 
+        // What Qt could lay out for hours is plain text.
+        for (const char* piece : {"<tr><td><td><td>", "<t&#97;ble>", "<TD colspan = 010>", "<td row&#115;pan='9&#48;'>",
+                                  "< style><b><b><b><b><b><b><b><b><b><b><b>", "<style>td{padding:9999px}</style>",
+                                  "<p x='>' style='line-height:9999%'>&#xD800;"}) {
+            const QString costly = QStringLiteral("<b>x</b>") + QString::fromLatin1(piece).repeated(9);
+            dialog->setMessage(costly);
+            QCOMPARE(dialog->getMessage(), costly);
+        }
+        dialog->setMessage(
+            QStringLiteral("<style>p{}</style><table style='padding:9px'><tr><td rowspan=\"9\">x").repeated(8));
+        QCOMPARE(dialog->getMessage().simplified(), QStringLiteral("x x x x x x x x"));
+
         dialog->setMessage(QStringLiteral("A line of the reason.<br>").repeated(500));
         QTRY_VERIFY(bar.isVisible());
         bar.setFocus();

@@ -3,6 +3,7 @@
 #include "ui_ProgressDialog.h"
 
 #include <QPixmap>
+#include <QPointer>
 #include <QTimer>
 
 #include <limits>
@@ -116,13 +117,14 @@ void ProgressDialog::updateProgressAnimation()
 
 void ProgressDialog::slWaiterTimer()
 {
-    auto* timer = qobject_cast<QTimer*>(sender());
+    const QPointer<QTimer> timer = qobject_cast<QTimer*>(sender());
     if (!timer)
         return;
     const int value = timer->property(waiterValue).toInt();
     setProgress(static_cast<unsigned int>(value), 100);
-    if (timer->property(waiterValue).toInt() != value)
-        return; // A slot of progressChanged() has called startWaiter() again.
+    // A slot of progressChanged() may have called startWaiter() again, or run a loop in which the dialog was deleted.
+    if (!timer || timer->property(waiterValue).toInt() != value)
+        return;
     const int nextValue = value + waiterStep;
     if (nextValue > 100) {
         timer->stop();

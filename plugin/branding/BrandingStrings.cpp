@@ -5,31 +5,42 @@
 #include <QDir>
 #include <QFile>
 #include <QProcessEnvironment>
+#include <QRegularExpression>
 #include <QSettings>
 #include <QTemporaryFile>
 
 #include <new>
 
 namespace {
-/// A file's content without a byte order mark, of which QSettings would make a part of the first key, and in UTF-8.
-/// What is not valid UTF-8 is Latin-1, unless it has a mark.
-QByteArray inUtf8(const QByteArray& content)
+// A noncharacter, which no text has.
+constexpr QChar mark(0xFDD0);
+
+/// A file's content without a byte order mark, of which QSettings would make a part of the first key. What is not valid
+/// UTF-8 is Latin-1, unless it has a mark.
+QString decoded(const QByteArray& content)
 {
     const QByteArray byteOrderMark("\xEF\xBB\xBF");
     if (content.startsWith(byteOrderMark))
-        return content.mid(byteOrderMark.size());
-    const bool isUtf8 = QString::fromUtf8(content.constData(), content.size()).toUtf8() == content;
-    return isUtf8 ? content : QString::fromLatin1(content.constData(), content.size()).toUtf8();
+        return QString::fromUtf8(content.mid(byteOrderMark.size()));
+    const QString text = QString::fromUtf8(content.constData(), content.size());
+    return text.toUtf8() == content ? text : QString::fromLatin1(content.constData(), content.size());
+}
+
+/// The content with a mark before all values that QSettings might deserialise, which can allocate any amount. It does
+/// so with @Variant(…) and @DateTime(…) at the beginning of a value or of a list's element, where quotes and escapes
+/// can hide each of these characters.
+QString marked(QString content)
+{
+    const QRegularExpression suspect(QStringLiteral(R"([=,][ \t]*+\K(?=[" \t]*+(?:\\|@["\\DV])))"));
+    return content.replace(suspect, mark);
 }
 
 void readFile(BrandingStrings& strings, const QString& path)
 {
     QFile file(path);
     const QByteArray content = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    // QSettings would deserialise @Variant(…), which can allocate any amount. A second @ makes it plain text. What has
-    // to be changed is changed in a copy, as the file belongs to the deployment.
-    const QByteArray variant("@Variant(");
-    const QByteArray readable = inUtf8(content).replace(variant, '@' + variant);
+    // What has to be changed for QSettings is changed in a copy, as the file belongs to the deployment.
+    const QByteArray readable = marked(decoded(content)).toUtf8();
     QTemporaryFile copy;
     if (readable != content && (!copy.open() || copy.write(readable) < 0 || !copy.flush()))
         return;
@@ -41,8 +52,10 @@ void readFile(BrandingStrings& strings, const QString& path)
 #endif
 
     const auto read = [&](const char* key, QString& field) {
-        const QString value = settings.value(QLatin1String(key), QString()).toString();
-        if (!value.isEmpty() && !value.startsWith(QLatin1String(variant)))
+        QString value = settings.value(QLatin1String(key), QString()).toString();
+        const bool isObject =
+            value.startsWith(mark + QLatin1String("@Variant(")) || value.startsWith(mark + QLatin1String("@DateTime("));
+        if (!isObject && !value.remove(mark).isEmpty())
             field = value;
     };
     read("companyName", strings.companyName);
@@ -61,7 +74,7 @@ void readDirectory(BrandingStrings& strings, const QString& directory)
         try {
             readFile(strings, path);
         } catch (const std::bad_alloc&) {
-            // A serialised object written with escapes is not recognised above; keep what was read before it.
+            // The file is larger than the memory.
         }
         qDebug("OEM strings loaded");
     } else {
