@@ -137,8 +137,8 @@ private Q_SLOTS:
             auto* next = get<Prompt>(QStringLiteral("x"));
             next->show();
             QCOMPARE(window(next).geometry(), window(prompts.last()).geometry());
-            QVERIFY(gui().deleteAllApproveRemoteConnectionDialogInstances());
-            QVERIFY(!gui().deleteAllApproveRemoteConnectionDialogInstances());
+            QVERIFY(gui().deleteAllApproveRemoteConnectionDialogInstances()
+                    && !gui().deleteAllApproveRemoteConnectionDialogInstances());
             settle();
         }
     }
@@ -155,8 +155,7 @@ private Q_SLOTS:
             prompt->show();
             if (!id.isEmpty())
                 click(prompt, button);
-            QVERIFY(!guard);
-            QVERIFY(!gui().deleteApproveRemoteConnectionDialogInstance(id));
+            QVERIFY(!guard && !gui().deleteApproveRemoteConnectionDialogInstance(id));
         }
         // exec() reports a time that is over from within its event loop.
         auto* late = get<Prompt>();

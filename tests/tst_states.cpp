@@ -172,8 +172,7 @@ bool isCut(QWidget* widget, const char* property)
 } // namespace
 
 /// Every dialog in the states of its gallery: what it looks like, what a screen reader finds there, where the keyboard
-/// leads, and whether its texts can be read: in the language of GUI_TEST_LANGUAGE at the
-/// resolution of QT_FONT_DPI.
+/// leads, and whether its texts can be read in the language of GUI_TEST_LANGUAGE at the resolution of QT_FONT_DPI.
 class StatesTest : public GuiTest {
     Q_OBJECT
 

@@ -21,9 +21,8 @@ public:
     /// The plain text of the reason shown, empty at first.
     virtual QString getMessage() const = 0;
     /// Sets the reason. The only text of this dialog in which rich text is interpreted: escape whatever in it comes
-    /// from outside the host (`QString::toHtmlEscaped()`). It is shown as plain text when it could take long to lay
-    /// out: beyond 16384 characters, 8 tables, 32 tags of tables (table, tr, td, th) or 100 tags and a style sheet, or
-    /// with a row or column span of ten or more, or a padding, line height or font size of four digits.
+    /// from outside the host (`QString::toHtmlEscaped()`). It is shown as plain text when it would take long to lay
+    /// out: beyond 16384 characters or 8 tables, or with a row or column span of ten or more.
     virtual void setMessage(const QString& text) = 0;
 
     /// The period chosen: 0 = 10 minutes (the default), 1 = 30 minutes, 2 = 1 hour, 3 = 4 hours.
