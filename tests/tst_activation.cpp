@@ -4,7 +4,6 @@ namespace {
 const char* const fieldNames[] = {"edHost", "edPort", "edToken"};
 const QString token = QStringLiteral("Qm7Zx2Lk9Tr4Vb6Ny1Hs3Dw8Gf5Jp0Cu");
 const QString link = QStringLiteral("https://mdm.example.com:8443/enroll/") + token;
-/// The fields after the link was pasted.
 const QStringList filled{QStringLiteral("mdm.example.com"), QStringLiteral("8443"), token};
 
 /// What the clipboard gives according to the steps that hosts and administrators rely on; empty if it is not usable.
@@ -193,7 +192,6 @@ private Q_SLOTS:
             edit.setCursorPosition(start);
             edit.setSelection(start, qMax(0, before.lastIndexOf(QLatin1Char('|')) - start - 1));
             (name == fieldNames[1] ? commit : paste)(edit, pasted);
-            // There is nothing to redo at first.
             for (const QString& text : {after, before, after}) {
                 QTest::keySequence(&edit, text == after ? QKeySequence::Redo : QKeySequence::Undo);
                 QCOMPARE(edit.text(), QString(text).remove(QLatin1Char('|')));

@@ -15,7 +15,6 @@ struct HostTranslator final : QTranslator {
 };
 } // namespace
 
-/// The prompt that asks whether a remote person may come in.
 class ApprovePromptTest : public GuiTest {
     Q_OBJECT
 
@@ -132,7 +131,6 @@ private Q_SLOTS:
                 }
                 prompts << prompt;
             }
-            // One that is not shown takes no place.
             prompts.last()->hide();
             auto* next = get<Prompt>(QStringLiteral("x"));
             next->show();

@@ -23,6 +23,11 @@ private Q_SLOTS:
         };
         QTRY_VERIFY(isBelow(host, window(dialog)));
         QVERIFY(isBelow(host, window(session)));
+        xdotool(QStringLiteral("windowminimize %1").arg(window(dialog).winId()));
+        QTRY_VERIFY(window(dialog).isMinimized());
+        dialog->hide();
+        dialog->show();
+        QTRY_VERIFY(!window(dialog).isMinimized() && stacking().contains(window(dialog).winId()));
     }
 
     void sessionWindowLeavesTheFocus()

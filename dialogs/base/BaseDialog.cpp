@@ -109,6 +109,8 @@ void BaseDialog::setVisible(bool visible)
         // Not in the show event: on X11 Qt would not know where a window is that was moved there.
         moveIntoReach();
         shownModality = windowModality();
+        // It may have been minimised when it was hidden.
+        setWindowState(windowState() & ~Qt::WindowMinimized);
     }
     keepShownModality();
     QDialog::setVisible(visible);

@@ -385,11 +385,9 @@ void RemoteConnectionDialog::announceEnd(const QString& sessionName)
 
 void RemoteConnectionDialog::showForSession()
 {
-    if (isMinimized()) {
-        // Restoring would activate it on some systems. Not hide(), which would end an exec().
+    // Restoring would activate it on some systems. Not hide(), which would end an exec().
+    if (isMinimized())
         QWidget::setVisible(false);
-        setWindowState(windowState() & ~Qt::WindowMinimized);
-    }
     if (isHidden())
         show();
 }
