@@ -1,6 +1,7 @@
 #include "DetailsEdit.h"
 
 #include <QMimeData>
+#include <QScopedValueRollback>
 #include <QTextBlock>
 #include <QTextLayout>
 
@@ -36,12 +37,18 @@ void replaceDifference(QTextDocument* document, const QString& text)
 
 DetailsEdit::DetailsEdit(QWidget* parent) : QTextEdit(parent)
 {
-    connect(document(), &QTextDocument::contentsChange, this, [this](int position) { editPosition = position; });
+    connect(document(), &QTextDocument::contentsChange, this,
+            [this](int position) { editPosition = inputPosition < 0 ? position : inputPosition; });
 }
 
 void DetailsEdit::setMaxLength(int length)
 {
     maxLength = length;
+}
+
+bool DetailsEdit::isComposing() const
+{
+    return composing;
 }
 
 void DetailsEdit::cutSurplus()
@@ -61,6 +68,16 @@ void DetailsEdit::cutSurplus()
     replaceDifference(document(), kept);
     document()->clearUndoRedoStacks(isUndoable ? QTextDocument::RedoStack : QTextDocument::UndoAndRedoStacks);
     moveCursor(QTextCursor::End);
+}
+
+void DetailsEdit::inputMethodEvent(QInputMethodEvent* event)
+{
+    const bool edits =
+        !event->commitString().isEmpty() || event->replacementLength() > 0 || textCursor().hasSelection();
+    const QScopedValueRollback<bool> state(composing, !edits);
+    const QScopedValueRollback<int> place(inputPosition,
+                                          qMax(0, textCursor().selectionStart() + event->replacementStart()));
+    QTextEdit::inputMethodEvent(event);
 }
 
 void DetailsEdit::insertFromMimeData(const QMimeData* source)

@@ -196,18 +196,15 @@ void ServiceDeskTicketDialog::slClose()
     if (changed && !confirmDiscard())
         return;
     changed = false;
-    ui->txIssueDetails->document()->setModified(false);
     Q_EMIT dialogEvent(this, evCancel);
 }
 
 void ServiceDeskTicketDialog::slIssueDetailsTextChanged()
 {
+    if (ui->txIssueDetails->isComposing())
+        return;
     ui->txIssueDetails->cutSurplus();
-    // Qt reports a change also when an input method shows or takes back what is not in the text yet.
-    if (ui->txIssueDetails->document()->isModified())
-        validate();
-    else
-        updateSubmitButton();
+    validate();
 }
 
 bool ServiceDeskTicketDialog::validate()
