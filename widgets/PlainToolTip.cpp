@@ -25,7 +25,7 @@ public:
         if (event->type() != QEvent::ToolTip)
             return QObject::eventFilter(watched, event);
         QString text = static_cast<QWidget*>(watched)->toolTip();
-        // What literalToolTip() has escaped would not wrap in a long word. No character takes more than six so.
+        // What literalToolTip() has escaped would not wrap in a long word. An escaped character is six long at most.
         if (Qt::mightBeRichText(text))
             text = QTextDocumentFragment::fromHtml(text.left(8 * longestToolTip)).toPlainText();
         showPlainToolTip(static_cast<QHelpEvent*>(event)->globalPos(), text, Qt::ElideRight);

@@ -74,7 +74,7 @@ void readDirectory(BrandingStrings& strings, const QString& directory)
         try {
             readFile(strings, path);
         } catch (const std::bad_alloc&) {
-            // The file is larger than the memory.
+            // A file that does not fit into memory changes nothing.
         }
         qDebug("OEM strings loaded");
     } else {
